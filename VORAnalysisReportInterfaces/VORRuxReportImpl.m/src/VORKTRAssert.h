@@ -1,0 +1,18 @@
+#ifndef VORKTRAssert_h
+#define VORKTRAssert_h
+
+#include "VORFatalError.h"
+
+// Base of the source paths that fatal errors name.
+#define VORKTR_SOURCE_PATH "VORAnalysisReportInterfaces/VORRuxReportImpl.m/src/"
+
+/// Ends in the platform's fatal error when a field that must be set is null. iPlace numbers the
+/// check within its source: hosts find it again in their logs, so that it does not move with the
+/// code.
+inline void AssertField(const void* iField, const char* iKey, const char* iSource, int iPlace)
+{
+    if (!iField)
+        VORFatalError(iKey, nullptr, nullptr, nullptr, iSource, iPlace);
+}
+
+#endif

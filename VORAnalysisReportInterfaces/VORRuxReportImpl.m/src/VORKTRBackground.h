@@ -1,0 +1,25 @@
+#ifndef VORKTRBackground_h
+#define VORKTRBackground_h
+
+#include "VORUnicodeString.h"
+
+constexpr const char* StandardBackgroundImage = "Corp.gif";
+
+/// Attributes of BODY: the plain colour, or an image of the report directory.
+constexpr const char* PlainBackground = "BGCOLOR=\"#EEF3FF\"";
+VORUnicodeString ImageBackground(const VORUnicodeString& iFileName);
+
+/// What the user's settings say of the page background.
+struct BackgroundSetting {
+    bool isStandard = true;
+    VORUnicodeString image; ///< Path of the user's image; empty when it could not be read.
+};
+
+/// Asks the settings component; without one, the standard background.
+BackgroundSetting ReadBackgroundSetting();
+
+/// The attribute for a later page of a site: the setting is read again, and only an image that the
+/// run may have copied into the directory iPath is named.
+VORUnicodeString ChoosePageBackground(const char* iPath);
+
+#endif

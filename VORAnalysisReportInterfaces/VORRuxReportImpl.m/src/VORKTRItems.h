@@ -1,0 +1,30 @@
+#ifndef VORKTRItems_h
+#define VORKTRItems_h
+
+#include <memory>
+
+#include "VORKTRReportingObj.h"
+#include "VORKTRSteppedArray.h"
+
+using VORKTRItemArray = VORKTRSteppedArray<std::unique_ptr<VORKTRReportingObj>>;
+
+/// Calls iVisit with each item in order. Positions emptied by a removal are skipped; items that are
+/// added on the way are visited too.
+template <typename Visit>
+void ForEachItem(const VORKTRItemArray& iItems, Visit&& iVisit)
+{
+    for (int i = 0; i < iItems.GetSize(); ++i) {
+        if (iItems[i])
+            iVisit(*iItems[i]);
+    }
+}
+
+/// Destroys the item at a position that holds one and returns what its RemoveFromReport returned.
+inline int RemoveItem(VORKTRItemArray& ioItems, int iIndex)
+{
+    const int status = ioItems[iIndex]->RemoveFromReport();
+    ioItems[iIndex].reset();
+    return status;
+}
+
+#endif

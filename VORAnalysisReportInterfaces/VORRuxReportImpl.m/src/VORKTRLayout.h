@@ -1,0 +1,36 @@
+#ifndef VORKTRLayout_h
+#define VORKTRLayout_h
+
+#include <algorithm>
+
+#include "VORUnicodeString.h"
+
+// The page of the plain-text report.
+
+constexpr int PageWidth = 80;
+constexpr int FrameWidth = 78;      // the rules of a framed line, behind one blank
+constexpr int FrameInnerWidth = 76; // between its bars
+
+/// A run of one character; empty when the count is not positive.
+inline VORUnicodeString Repeat(char iChar, int iCount)
+{
+    return VORUnicodeString(static_cast<VORUnicodeChar>(iChar), iCount);
+}
+
+/// Blanks on the left of what is iWidth wide, to centre it on the page; 0 when it does not fit.
+inline int MarginOf(int iWidth)
+{
+    return (PageWidth - std::min(iWidth, PageWidth)) / 2;
+}
+
+/// A text between the bars of a frame; the odd blank goes to the right. One that is too long gets
+/// no blanks.
+inline VORUnicodeString CenteredInFrame(const VORUnicodeString& iText)
+{
+    const int length = std::min(iText.GetLengthInChar(), FrameInnerWidth);
+    return Repeat(' ', (FrameInnerWidth - length) / 2)
+        .Append(iText)
+        .Append(Repeat(' ', FrameInnerWidth / 2 - length / 2));
+}
+
+#endif

@@ -1,0 +1,30 @@
+#include "VORKTRReportTools.h"
+
+#include <cstdlib>
+
+#include "VOREnvironment.h"
+#include "VORPath.h"
+
+int VORKTRReportTools::_figureNb = 0;
+
+void VORKTRReportTools::InitFigureNumber()
+{
+    _figureNb = 0;
+}
+
+int VORKTRReportTools::GetFigureNumber()
+{
+    return ++_figureNb;
+}
+
+int VORKTRReportTools::StartBrowser(const VORUnicodeString& page, unsigned char)
+{
+    if (VORGetEnv("KTR_ODT"))
+        return 0;
+    VORUnicodeString command;
+    VORFindPath("RunNs.sh", VORGetEnv("VORCommandPath"), command);
+    if (!(command != ""))
+        return -1;
+    command.Append(" ").Append(page);
+    return std::system(command.CastToCharPtr());
+}

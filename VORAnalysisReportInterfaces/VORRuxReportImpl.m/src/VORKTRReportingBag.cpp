@@ -1,0 +1,76 @@
+#include "VORKTRReportingBag.h"
+
+#include <algorithm>
+
+#include "VORKTRItems.h"
+#include "VORKTRReportingTitle.h"
+
+VORKTRReportingBag::VORKTRReportingBag() = default;
+VORKTRReportingBag::~VORKTRReportingBag() = default;
+
+int VORKTRReportingBag::RemoveFromReport()
+{
+    int status = 0;
+    for (int i = 0; i < _ObjectList.GetSize(); ++i) {
+        if (_ObjectList[i])
+            status = RemoveItem(_ObjectList, i);
+    }
+    return status;
+}
+
+int VORKTRReportingBag::GetType() const
+{
+    return VORKTRReportingBagKind;
+}
+
+void VORKTRReportingBag::Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
+                                unsigned int iNavigationFile) const
+{
+    ForEachItem(_ObjectList, [&](const VORKTRReportingObj& child) {
+        child.Report(iFile, iPath, iFrames, iNavigationFile);
+    });
+}
+
+void VORKTRReportingBag::ASCIIReport(VORUnicodeString& ioText) const
+{
+    ForEachItem(_ObjectList, [&](const VORKTRReportingObj& child) { child.ASCIIReport(ioText); });
+}
+
+int VORKTRReportingBag::GetWidthInChar() const
+{
+    int width = 0;
+    ForEachItem(_ObjectList, [&](const VORKTRReportingObj& child) {
+        width = std::max(width, child.GetWidthInChar());
+    });
+    return width;
+}
+
+void VORKTRReportingBag::SetBuffer(VORKTRReportingBuffer* iBuffer)
+{
+    _Buffer = iBuffer;
+    ForEachItem(_ObjectList, [&](VORKTRReportingObj& child) { child.SetBuffer(iBuffer); });
+}
+
+void VORKTRReportingBag::SetBufferData(const VORUnicodeString* iPath)
+{
+    ForEachItem(_ObjectList, [&](VORKTRReportingObj& child) { child.SetBufferData(iPath); });
+}
+
+void VORKTRReportingBag::AddObject(VORKTRReportingObj* iObject)
+{
+    if (!iObject)
+        return;
+    iObject->SetBuffer(_Buffer);
+    _ObjectList.Append(std::unique_ptr<VORKTRReportingObj>(iObject));
+}
+
+int VORKTRReportingBag::GetNbTitles(int iOrder)
+{
+    int count = 0;
+    ForEachItem(_ObjectList, [&](const VORKTRReportingObj& child) {
+        if (child.GetType() == VORKTRReportingTitleKind &&
+            static_cast<const VORKTRReportingTitle&>(child).GetOrder() == iOrder)
+            ++count;
+    });
+    return count;
+}

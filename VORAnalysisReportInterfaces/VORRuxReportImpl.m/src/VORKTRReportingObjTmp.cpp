@@ -1,0 +1,4 @@
+#include "VORKTRReportingObjTmp.h"
+
+VORKTRReportingObjTmp::VORKTRReportingObjTmp() = default;
+VORKTRReportingObjTmp::~VORKTRReportingObjTmp() = default;

@@ -1,0 +1,4 @@
+#include "VORKTRReportingObjTmp2.h"
+
+VORKTRReportingObjTmp2::VORKTRReportingObjTmp2() = default;
+VORKTRReportingObjTmp2::~VORKTRReportingObjTmp2() = default;

@@ -1,0 +1,145 @@
+#include "VORKTRReportingTitle.h"
+
+#include <algorithm>
+
+#include "VORFile.h"
+#include "VORKTRAssert.h"
+#include "VORKTRBackground.h"
+#include "VORKTRFragment.h"
+#include "VORKTRLayout.h"
+#include "VORKTRReportingBuffer.h"
+#include "VORKTRSite.h"
+#include "VORPath.h"
+
+namespace
+{
+
+constexpr const char* Source = VORKTR_SOURCE_PATH "VORKTRReportingTitle";
+constexpr const char* BufferAssertion = "AssertionFailed:_Buffer";
+constexpr const char* TitleAssertion = "AssertionFailed:_Title";
+
+// A heading in a frame of dashes; one that is longer than the frame is not cut.
+VORUnicodeString Boxed(const VORUnicodeString& iTitle)
+{
+    const VORUnicodeString rule =
+        VORUnicodeString(" ").Append(Repeat('-', FrameWidth)).Append("\n");
+    return rule + VORUnicodeString(" |").Append(CenteredInFrame(iTitle)).Append("|\n") + rule;
+}
+
+VORUnicodeString Centered(const VORUnicodeString& iTitle)
+{
+    return Repeat(' ', MarginOf(iTitle.GetLengthInChar())).Append(iTitle).Append("\n");
+}
+
+VORUnicodeString Underlined(const VORUnicodeString& iTitle, char iRule)
+{
+    const int length = iTitle.GetLengthInChar();
+    return Centered(iTitle)
+        .Append(Repeat(' ', MarginOf(length)))
+        .Append(Repeat(iRule, length))
+        .Append("\n");
+}
+
+VORUnicodeString Indented(const VORUnicodeString& iTitle, int iBlanks)
+{
+    return Repeat(' ', iBlanks).Append(iTitle).Append("\n");
+}
+
+VORUnicodeString Block(const VORUnicodeString& iTitle, int iOrder)
+{
+    switch (iOrder) {
+    case 1:
+        return "\n\n" + Boxed(iTitle);
+    case 2:
+        return "\n\n" + Underlined(iTitle, '=');
+    case 3:
+        return "\n" + Underlined(iTitle, '-');
+    case 4:
+        return "\n" + Centered(iTitle);
+    case 5:
+        return "\n" + Indented(iTitle, 4);
+    default:
+        return "\n" + Indented(iTitle, 7);
+    }
+}
+
+} // namespace
+
+VORKTRReportingTitle::VORKTRReportingTitle(const VORUnicodeString& iTitle, int iOrder)
+    : _Title(std::make_unique<VORUnicodeString>(iTitle)), _Order(std::clamp(iOrder, 1, 6))
+{
+}
+
+VORKTRReportingTitle::~VORKTRReportingTitle() = default;
+
+int VORKTRReportingTitle::GetOrder() const
+{
+    return _Order;
+}
+
+int VORKTRReportingTitle::GetType() const
+{
+    return VORKTRReportingTitleKind;
+}
+
+void VORKTRReportingTitle::SetBufferData(const VORUnicodeString* iPath)
+{
+    if (!_Path && iPath)
+        _Path = std::make_unique<VORUnicodeString>(*iPath);
+}
+
+void VORKTRReportingTitle::Report(unsigned int iFile, const char*, unsigned char iFrames,
+                                  unsigned int iNavigationFile) const
+{
+    AssertField(_Buffer, BufferAssertion, Source, 77);
+    AssertField(_Title.get(), TitleAssertion, Source, 78);
+    ++_Buffer->GetIndex();
+    // The files are numbered so that a new page takes over the number of the one it ends: the items
+    // that follow, given that number by the report, write into the new page.
+    unsigned int file = iFile;
+    if (iFrames && _Order < 3 && _Path)
+        NewPage(_Title.get(), file, _Path->ConvertToChar());
+
+    const VORUnicodeString anchor = Decimal(_Buffer->GetIndex());
+    const VORUnicodeString order = Decimal(_Order);
+    if (iFrames)
+        WriteFragment(iNavigationFile, "<A HREF=\"", PageName(_Buffer->GetPagesNumber()), "#",
+                      anchor, "\"><NOBR><H", order, ">", *_Title, "</H", order, "></NOBR></A>\n");
+    WriteFragment(file, "\n<A NAME=\"", anchor, "\"><H", order, ">", *_Title, "</H", order,
+                  "></A>\n");
+}
+
+int VORKTRReportingTitle::NewPage(const VORUnicodeString* iTitle, unsigned int& ioFile,
+                                  const char* iPath) const
+{
+    AssertField(_Buffer, BufferAssertion, Source, 129);
+    if (!iTitle)
+        return VOR_E_INVALIDARG;
+    ClosePage(ioFile);
+    VORUnicodeString path;
+    VORMakePath(iPath, PageName(++_Buffer->GetPagesNumber()), path);
+    const int status = VORFOpen(path, "w", ioFile);
+    if (status < 0)
+        return status;
+    WritePageHead(ioFile, *iTitle, ChoosePageBackground(iPath));
+    _Buffer->GetIndex() = 0;
+    return VOR_S_OK;
+}
+
+void VORKTRReportingTitle::ASCIIReport(VORUnicodeString& ioText) const
+{
+    AssertField(_Title.get(), TitleAssertion, Source, 233);
+    ioText.Append(Block(*_Title, _Order) + "\n");
+}
+
+int VORKTRReportingTitle::GetWidthInChar() const
+{
+    AssertField(_Title.get(), TitleAssertion, Source, 225);
+    return _Title->GetLengthInChar();
+}
+
+void VORKTRReportingTitle::ASCIIReport_in_Table(VORUnicodeString& ioText) const
+{
+    AssertField(_Title.get(), TitleAssertion, Source, 295);
+    ioText.Append(*_Title);
+}

@@ -1,0 +1,136 @@
+#ifndef VORKTRReportingBuffer_h
+#define VORKTRReportingBuffer_h
+
+#include <forward_list>
+#include <memory>
+
+#include "VORAnalysisReportInterfacesExport.h"
+#include "VORKTRReportingObj.h"
+#include "VORKTRSteppedArray.h"
+#include "VORUnicodeString.h"
+
+/// A report: an ordered list of items that writes itself as a static web site (MakeReport) and as
+/// plain text for a page of 80 columns (MakeTextReport). A report and its items are used from one
+/// thread.
+///
+/// Operations return 0 or a negative status, 0x80004005 for a failure without a status of its own.
+/// None throws on purpose; a fatal-error handler may leave through them. What the system says to a
+/// write or close is not looked at.
+class VORKTR_EXPORT VORKTRReportingBuffer
+{
+public:
+    VORKTRReportingBuffer();
+    VORKTRReportingBuffer(const VORKTRReportingBuffer&) = delete;
+    VORKTRReportingBuffer& operator=(const VORKTRReportingBuffer&) = delete;
+    /// Destroys the items and closes pages that a failed run left open. Files on disk stay.
+    virtual ~VORKTRReportingBuffer();
+
+    /// Appends an item and takes ownership of it. Do not add an item twice. Fails on null.
+    int AddObject(VORKTRReportingObj* iObject);
+
+    /// Inserts an item before position iIndex, from 0, and takes ownership of it. Fails, leaving
+    /// the item the caller's, on null and on a position that holds no entry yet: the end is
+    /// refused.
+    int InsertObjectAtIndex(VORKTRReportingObj* iObject, int iIndex);
+
+    /// Destroys the item at a position, which stays as an empty one: other positions do not move.
+    /// Returns what the item's RemoveFromReport returned; fails when there is no item.
+    int RemoveObject(int iIndex);
+    /// As above for a given item; fails when the report does not hold it.
+    int RemoveObject(VORKTRReportingObj* iObject);
+
+    /// Position of an item, of the first empty position for null. Fails, leaving oIndex as it is,
+    /// when there is none.
+    int GetObjectIndex(VORKTRReportingObj* iObject, int& oIndex);
+
+    /// Number of positions, empty ones included.
+    int GetObjectNumber() const { return _ObjectList.GetSize(); }
+    /// Number of positions that the list has room for: from 5 on in steps of 5.
+    int GetAllocatedNumber() const { return _ObjectList.GetCapacity(); }
+    /// Makes room for one more position.
+    void Reallocate() { _ObjectList.Reallocate(); }
+
+    /// @{ Counters that the items share while a site is written: number of the page being written
+    /// (from 1), anchor of the latest heading (1 before the first one, which gets 2; a heading that
+    /// opens a page gets 0), number of files included so far.
+    int& GetPagesNumber() { return _PagesNb; }
+    int& GetIndex() { return _Index; }
+    int& GetIncludedFilesNumber() { return _IncludedFilesNb; }
+    /// @}
+
+    /// Writes the report as a web site into iDirectory (UTF-8), which is created when absent, but
+    /// not its parents, and never emptied: files of the same names are overwritten. iTitle heads
+    /// the site; it is HTML, not escaped. A report is written once; Update rewrites it. Fails when
+    /// the directory cannot be created or written or a page cannot be opened.
+    int MakeReport(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle);
+
+    /// Rewrites the site after items were added or removed. Page numbers start at 1 again; pages
+    /// beyond those of the new site stay on disk. Anchors of the first page, file and figure
+    /// numbers go on. Fails before the first MakeReport.
+    int Update();
+
+    /// @{ The steps of a run, in order. BeginReport writes the stylesheets, copies the background
+    /// image and opens the first page; Flush writes the items; FinishReport closes the pages and
+    /// deletes "reload.html". All fail before the first MakeReport, Flush also
+    /// without an open page.
+    int BeginReport();
+    int Flush();
+    int FinishReport();
+    /// @}
+
+    /// 1 when the site gets a navigation frame: at least two headings of level 1, or two of level
+    /// 2, at the top of the report or directly in a bag there. Else 0.
+    int FramesExist() const;
+
+    /// Writes "main.css" and, when withNavigation is not 0, "navigation.css" into a directory.
+    static int MakeStylesheets(VORUnicodeString& directory, char withNavigation);
+
+    /// Writes the frame set "index.html" and opens "navigation.html" and "page1.html", their heads
+    /// written, for the caller to go on with and close.
+    static int PrepareFrames(VORUnicodeString& directory, const VORUnicodeString& title,
+                             unsigned int& navigationFile, unsigned int& pageFile);
+
+    /// Copies a file, the background image, into the report directory, replacing one of its name.
+    int CopyIcon(VORUnicodeString& iFileName, VORUnicodeString& iSourceDirectory) const;
+
+    /// Writes "reload.html", a frame set that reopens the site at its latest page and heading.
+    /// Fails before the first MakeReport and when the file cannot be opened.
+    int MakeReloadPage();
+
+    /// Appends the report as text to ioText, headed by a banner unless iTitle is empty; returns 0.
+    int MakeTextReport(const VORUnicodeString& iTitle, VORUnicodeString& ioText) const;
+    /// @{ Its two steps: the banner (iTitle is cut to 74 characters), then the items.
+    int BeginTextReport(const VORUnicodeString& iTitle, VORUnicodeString& ioText) const;
+    int FlushText(VORUnicodeString& ioText) const;
+    /// @}
+
+private:
+    using Item = std::unique_ptr<VORKTRReportingObj>;
+
+    void Adopt(VORKTRReportingObj& ioItem);
+    VORUnicodeString* Keep(const VORUnicodeString& iText);
+    int BeginFrames();
+    int BeginSinglePage();
+    int WriteItems();
+    void ChooseBackground() const;
+    bool UseBackground(const VORUnicodeString& iImage) const;
+    void DeleteSiteFile(const VORUnicodeString& iName) const;
+    void ClosePages();
+
+    VORKTRSteppedArray<Item> _ObjectList; // a removed item leaves a null entry
+    int _IncludedFilesNb = 0;
+    int _PagesNb = 1;
+    int _Index = 1;
+    bool _Frames = true;
+    bool _PathSent = false;
+    // Directories and titles of all runs: items may still point at earlier ones.
+    std::forward_list<VORUnicodeString> _Texts;
+    VORUnicodeString* _Path = nullptr;
+    VORUnicodeString* _Title = nullptr;
+    unsigned int _PageFile = 0;
+    unsigned int _NavigationFile = 0;
+
+    static VORUnicodeString _BackgroundCode;
+};
+
+#endif

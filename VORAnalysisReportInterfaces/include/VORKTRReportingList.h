@@ -1,0 +1,79 @@
+#ifndef VORKTRReportingList_h
+#define VORKTRReportingList_h
+
+#include <memory>
+
+#include "VORKTRReportingObj.h"
+#include "VORKTRSteppedArray.h"
+
+/// Lines of label, separator, value and unit, in aligned columns. When a value is a float, values
+/// align on their decimal point in HTML. Labels and units are HTML, not escaped; a text value is.
+class VORKTR_EXPORT VORKTRReportingList : public VORKTRReportingObj
+{
+public:
+    /// The separator stands between each label and its value.
+    explicit VORKTRReportingList(char separator);
+    ~VORKTRReportingList() override;
+
+    /// @{ Adds a line whose value is a text, or a number in the printf format (see
+    /// VORKTRReportingFloat and VORKTRReportingInt); a double is converted to float. A unit may be
+    /// empty. Returns 0; without memory for its value, a line has none.
+    int addLine(const VORUnicodeString& label, const VORUnicodeString& value,
+                const VORUnicodeString& unit);
+    int addLine(const VORUnicodeString& label, float value, const VORUnicodeString& unit,
+                const char* format);
+    int addLine(const VORUnicodeString& label, double value, const VORUnicodeString& unit,
+                const char* format);
+    int addLine(const VORUnicodeString& label, int value, const VORUnicodeString& unit,
+                const char* format);
+    /// @}
+
+    /// Adds a line with any item as its value and takes ownership of it; null leaves the line
+    /// without one. Returns 0. The list tells the item neither its report nor the directory: call
+    /// SetBuffer on a heading, SetBuffer and SetBufferData on a file.
+    int addLine(const VORUnicodeString& label, VORKTRReportingObj* value,
+                const VORUnicodeString& unit);
+
+    /// @{ Number of lines, and of those that there is room for (from 5 on in steps of 5).
+    int GetLineNumber() const { return _Lines.GetSize(); }
+    int GetAllocatedNumber() const { return _Lines.GetCapacity(); }
+    /// @}
+    /// Makes room for one more line.
+    void Reallocate() { _Lines.Reallocate(); }
+
+    /// The decimal separator of the C locale in use; report texts themselves always use '.'.
+    static char float_separator();
+
+    /// Widths of the three columns in characters.
+    void GetColsWidth(int& labelWidth, int& valueWidth, int& unitWidth) const;
+
+    /// Appends the list's text, indented by two blanks unless inTable is not 0. Values are
+    /// right-aligned when a line has a unit, else left-aligned.
+    void ASCIIReport_generic(VORUnicodeString& out, unsigned char inTable) const;
+
+    int GetType() const override;
+    void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
+                unsigned int iNavigationFile) const override;
+    void ASCIIReport(VORUnicodeString& ioText) const override;
+    int GetWidthInChar() const override;
+    void ASCIIReport_in_Table(VORUnicodeString& ioText) const override;
+
+private:
+    struct Line {
+        VORUnicodeString label;
+        std::unique_ptr<VORKTRReportingObj> value;
+        VORUnicodeString unit;
+    };
+
+    int AddLine(const VORUnicodeString& iLabel, std::unique_ptr<VORKTRReportingObj> ioValue,
+                const VORUnicodeString& iUnit);
+    bool HasFloats() const;
+    void WriteSeparatorCell(unsigned int iFile, const Line& iLine) const;
+    void AppendValue(VORUnicodeString& out, const Line& iLine, int iValueWidth,
+                     int iUnitWidth) const;
+
+    VORKTRSteppedArray<Line> _Lines;
+    char _Separator;
+};
+
+#endif

@@ -1,0 +1,91 @@
+#ifndef VORKTRReportingTable_h
+#define VORKTRReportingTable_h
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "VORKTRReportingObj.h"
+
+/// A grid of cells, each an item or empty. Rows and columns count from 0; the grid grows to hold
+/// each cell that is set. Integers and texts are centred, floats right-aligned.
+///
+/// The style is a sum of: 0x01 first row, 0x02 last row, 0x04 first column are headers; 0x08 rules
+/// between the columns and a border; 0x10 not centred on the page.
+class VORKTR_EXPORT VORKTRReportingTable : public VORKTRReportingObj
+{
+public:
+    /// An empty table of a style.
+    explicit VORKTRReportingTable(unsigned long style);
+    ~VORKTRReportingTable() override;
+
+    /// @{ Sets a cell to a number in the printf format (see VORKTRReportingInt and
+    /// VORKTRReportingFloat) or to a text. An item that was there is destroyed. A double is
+    /// converted to float. Returns 0, or 0x80004005 for a negative row or column; without memory
+    /// for its item, a cell is empty.
+    int SetInt(int row, int col, int value, const char* format);
+    int SetFloat(int row, int col, float value, const char* format);
+    int SetFloat(int row, int col, double value, const char* format);
+    int SetText(int row, int col, const VORUnicodeString& text);
+    /// @}
+
+    /// Sets a cell to any item and takes ownership of it; never twice with the same item. Returns
+    /// 0, or 0x80004005 for a null item and for a negative row or column: the item stays the
+    /// caller's. The table tells the item neither its report nor the directory: call SetBuffer on
+    /// a heading, SetBuffer and SetBufferData on a file.
+    int SetObj(int row, int col, VORKTRReportingObj* item);
+
+    /// @{ Size of the grid.
+    int GetRowNumber() const { return _RowNb; }
+    int GetColumnNumber() const { return _ColumnNb; }
+    /// @}
+    /// Grows the grid so that it holds a cell, which must not be negative.
+    void Reallocate(int row, int col);
+
+    /// Widths of the columns in characters: a new array, which the caller releases with delete[].
+    int* GetColsWidth() const;
+
+    /// Appends the table's text, centred on 80 columns unless inTable is not 0.
+    void ASCIIReport_generic(VORUnicodeString& out, unsigned char inTable) const;
+    /// Appends the lines of one row: indent, then each cell between padLeft and padRight, in
+    /// columns of the given widths.
+    void PrintRow(VORUnicodeString& out, int row, const VORUnicodeString& indent,
+                  const VORUnicodeString& padLeft, const VORUnicodeString& padRight,
+                  const int* widths) const;
+
+    int GetType() const override;
+    void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
+                unsigned int iNavigationFile) const override;
+    void ASCIIReport(VORUnicodeString& ioText) const override;
+    /// Sum of the column widths, and one for each separator and edge.
+    int GetWidthInChar() const override;
+    void ASCIIReport_in_Table(VORUnicodeString& ioText) const override;
+
+private:
+    using Cell = std::unique_ptr<VORKTRReportingObj>;
+
+    Cell& CellAt(int iRow, int iColumn) { return _Cells[Offset(iRow, iColumn)]; }
+    const Cell& CellAt(int iRow, int iColumn) const { return _Cells[Offset(iRow, iColumn)]; }
+    std::size_t Offset(int iRow, int iColumn) const
+    {
+        return static_cast<std::size_t>(iRow) * _Stride + static_cast<std::size_t>(iColumn);
+    }
+
+    int Place(int iRow, int iColumn, Cell ioItem);
+    void Widen(std::size_t iColumns);
+    char CellStyle(int iRow, int iColumn) const;
+    bool HasRuleBelow(int iRow) const;
+    char SeparatorChar() const;
+    char EdgeChar() const;
+    char SeparatorBehind(int iColumn) const;
+
+    // Row-major; a row has room for _Stride cells, so that columns can be added without moving
+    // every row each time.
+    std::vector<Cell> _Cells;
+    std::size_t _Stride = 0;
+    int _RowNb = 0;
+    int _ColumnNb = 0;
+    unsigned long _Style;
+};
+
+#endif

@@ -1,0 +1,35 @@
+#include "VORIKTRGeneralSettingAtt.h"
+
+#include "VORDictionary.h"
+#include "VORKTRMetaObject.h"
+
+const GUID IID_VORIKTRGeneralSettingAtt = {
+    0x7AF29DE1, 0xA4E8, 0x4B09, {0xB5, 0x04, 0x60, 0x03, 0x2B, 0x03, 0x90, 0x4E}};
+
+VORMetaClass* VORIKTRGeneralSettingAtt::meta_object = nullptr;
+
+VORMetaClass* VORIKTRGeneralSettingAtt::MetaObject()
+{
+    if (!meta_object)
+        meta_object =
+            MakeInterfaceMetaObject(IID_VORIKTRGeneralSettingAtt, "VORIKTRGeneralSettingAtt");
+    return meta_object;
+}
+
+const GUID& VORIKTRGeneralSettingAtt::ClassId()
+{
+    return MetaObject()->GetId();
+}
+
+const char* VORIKTRGeneralSettingAtt::ClassName()
+{
+    return MetaObject()->GetName();
+}
+
+namespace
+{
+
+const VORFillDictionary FillDictionary(IID_VORIKTRGeneralSettingAtt, CLSID_VORMetaClass,
+                                       VORIKTRGeneralSettingAtt::MetaObject(), nullptr);
+
+} // namespace

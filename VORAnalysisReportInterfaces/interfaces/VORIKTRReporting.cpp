@@ -1,0 +1,39 @@
+#include "VORIKTRReporting.h"
+
+#include "VORDictionary.h"
+#include "VORKTRMetaObject.h"
+
+const GUID IID_VORIKTRReporting = {
+    0x580C9CBA, 0x86E9, 0x4B9A, {0xAC, 0x55, 0x59, 0x6D, 0x6E, 0x89, 0xA4, 0x9E}};
+
+VORMetaClass* VORIKTRReporting::meta_object = nullptr;
+
+VORMetaClass* VORIKTRReporting::MetaObject()
+{
+    if (!meta_object)
+        meta_object = MakeInterfaceMetaObject(IID_VORIKTRReporting, "VORIKTRReporting");
+    return meta_object;
+}
+
+const GUID& VORIKTRReporting::ClassId()
+{
+    return MetaObject()->GetId();
+}
+
+const char* VORIKTRReporting::ClassName()
+{
+    return MetaObject()->GetName();
+}
+
+VORBaseUnknown* VORIKTRReporting_var::__CastTo(IUnknown* iObject)
+{
+    return CastTo(iObject, IID_VORIKTRReporting);
+}
+
+namespace
+{
+
+const VORFillDictionary FillDictionary(IID_VORIKTRReporting, CLSID_VORMetaClass,
+                                       VORIKTRReporting::MetaObject(), nullptr);
+
+} // namespace

@@ -1,0 +1,24 @@
+#ifndef VORMsgCatalog_h
+#define VORMsgCatalog_h
+
+#include "VORSystemExport.h"
+#include "VORUnicodeString.h"
+
+/// The texts that a host registers for the messages of its libraries.
+class VORSYSTEM_EXPORT VORMsgCatalog
+{
+public:
+    VORMsgCatalog() = delete;
+
+    /// Sets the text of iKey in iCatalog, replacing an earlier one.
+    static void RegisterMessage(const char* iCatalog, const char* iKey,
+                                const VORUnicodeString& iText);
+
+    /// The text registered for iKey in iCatalog, else iDefault. "/p1" to "/p9" in it stand for the
+    /// iCount parameters, "/p1" for the first; others are left as they are.
+    static VORUnicodeString BuildMessage(const char* iCatalog, const char* iKey,
+                                         const VORUnicodeString* iParameters, int iCount,
+                                         const VORUnicodeString& iDefault);
+};
+
+#endif

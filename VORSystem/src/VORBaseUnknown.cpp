@@ -1,0 +1,58 @@
+#include "VORBaseUnknown.h"
+
+const GUID IID_IUnknown = {
+    0x1F0C44B6, 0x7A31, 0x4E0D, {0x9B, 0x52, 0x60, 0x3E, 0x8D, 0x17, 0xC2, 0x03}};
+const GUID IID_VORBaseUnknown = {
+    0x1F0C44B6, 0x7A31, 0x4E0D, {0x9B, 0x52, 0x60, 0x3E, 0x8D, 0x17, 0xC2, 0x02}};
+
+VORMetaClass* VORBaseUnknown::MetaObject()
+{
+    static VORMetaClass metaObject(&IID_VORBaseUnknown, "VORBaseUnknown", nullptr, nullptr,
+                                   VORImplementationKind);
+    return &metaObject;
+}
+
+const GUID& VORBaseUnknown::ClassId()
+{
+    return MetaObject()->GetId();
+}
+
+const char* VORBaseUnknown::ClassName()
+{
+    return MetaObject()->GetName();
+}
+
+VORStatus VORBaseUnknown::QueryInterface(const GUID& iId, void** oInterface)
+{
+    const bool granted = iId == IID_IUnknown || GetMetaObject()->IsAKindOf(iId);
+    *oInterface = granted ? this : nullptr;
+    if (!granted)
+        return VOR_E_NOINTERFACE;
+    AddRef();
+    return VOR_S_OK;
+}
+
+unsigned int VORBaseUnknown::Release()
+{
+    const unsigned int left = --_References;
+    if (left == 0)
+        delete this;
+    return left;
+}
+
+VORBaseUnknown_var::~VORBaseUnknown_var()
+{
+    if (_Object)
+        _Object->Release();
+}
+
+VORBaseUnknown* VORBaseUnknown_var::CastTo(IUnknown* iObject, const GUID& iId)
+{
+    void* found = nullptr;
+    if (iObject)
+        iObject->QueryInterface(iId, &found);
+    if (_Object)
+        _Object->Release();
+    _Object = static_cast<VORBaseUnknown*>(found);
+    return _Object;
+}

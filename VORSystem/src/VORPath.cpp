@@ -1,0 +1,146 @@
+#include "VORPath.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "VORSystemStatus.h"
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+constexpr char Separator = '/';
+constexpr char ListSeparator = ':';
+
+std::string_view Bytes(const VORUnicodeString& iText)
+{
+    return {iText.ConvertToChar(), static_cast<std::size_t>(iText.GetLengthInByte())};
+}
+
+bool Join(std::string_view iDirectory, std::string_view iName, std::string& oPath)
+{
+    const std::size_t begin = iName.find_first_not_of(Separator);
+    if (iDirectory.empty() || begin == std::string_view::npos)
+        return false;
+    const std::size_t end = iDirectory.find_last_not_of(Separator) + 1; // 0 for the root
+    oPath = iDirectory.substr(0, end);
+    oPath += Separator;
+    oPath += iName.substr(begin);
+    return true;
+}
+
+bool Split(std::string_view iPath, std::string_view& oDirectory, std::string_view& oName)
+{
+    const std::size_t cut = iPath.rfind(Separator);
+    const bool isBare = cut == std::string_view::npos;
+    const std::string_view name = isBare ? iPath : iPath.substr(cut + 1);
+    if (name.empty())
+        return false;
+    oName = name;
+    oDirectory = isBare ? std::string_view() : iPath.substr(0, cut == 0 ? 1 : cut);
+    return true;
+}
+
+VORUnicodeString Text(std::string_view iBytes)
+{
+    return VORUnicodeString(iBytes.data(), static_cast<int>(iBytes.size()));
+}
+
+void CopyOut(std::string_view iBytes, char* oText)
+{
+    oText[iBytes.copy(oText, iBytes.size())] = '\0';
+}
+
+bool IsFile(const VORUnicodeString& iPath)
+{
+    std::error_code error;
+    return fs::exists(fs::u8path(iPath.ConvertToChar()), error) &&
+           !fs::is_directory(fs::u8path(iPath.ConvertToChar()), error);
+}
+
+} // namespace
+
+VORStatus VORMakePath(const VORUnicodeString& iDirectory, const VORUnicodeString& iName,
+                      VORUnicodeString& oPath)
+{
+    std::string path;
+    if (!Join(Bytes(iDirectory), Bytes(iName), path))
+        return VOR_E_INVALIDARG;
+    oPath = VORUnicodeString(path.c_str());
+    return VOR_S_OK;
+}
+
+VORStatus VORMakePath(const char* iDirectory, const char* iName, char* oPath, std::size_t iSize)
+{
+    std::string path;
+    if (!iDirectory || !iName || !Join(iDirectory, iName, path) || path.size() >= iSize)
+        return VOR_E_INVALIDARG;
+    CopyOut(path, oPath);
+    return VOR_S_OK;
+}
+
+VORStatus VORSplitPath(const VORUnicodeString& iPath, VORUnicodeString& oDirectory,
+                       VORUnicodeString& oName)
+{
+    std::string_view directory;
+    std::string_view name;
+    if (!Split(Bytes(iPath), directory, name))
+        return VOR_E_INVALIDARG;
+    VORUnicodeString nameText = Text(name); // before a result, which may be iPath, changes
+    oDirectory = Text(directory);
+    oName = std::move(nameText);
+    return VOR_S_OK;
+}
+
+VORStatus VORSplitPath(const char* iPath, char* oDirectory, char* oName, std::size_t iSize)
+{
+    std::string_view directory;
+    std::string_view name;
+    if (!iPath || !Split(iPath, directory, name) || directory.size() >= iSize ||
+        name.size() >= iSize)
+        return VOR_E_INVALIDARG;
+    CopyOut(directory, oDirectory);
+    CopyOut(name, oName);
+    return VOR_S_OK;
+}
+
+VORStatus VORFindPath(const char* iName, const char* iList, VORUnicodeString& oPath)
+{
+    std::string_view rest = iList ? iList : "";
+    while (!rest.empty()) {
+        const std::string_view directory = rest.substr(0, rest.find(ListSeparator));
+        rest.remove_prefix(std::min(rest.size(), directory.size() + 1));
+        VORUnicodeString path;
+        if (VORMakePath(Text(directory), iName, path) >= 0 && IsFile(path)) {
+            oPath = path;
+            return VOR_S_OK;
+        }
+    }
+    oPath = VORUnicodeString();
+    return VOR_E_FILE_NOT_FOUND;
+}
+
+VORStatus VOROpenDirectory(const VORUnicodeString& iPath, VORDIR* oDirectory)
+{
+    std::error_code error;
+    oDirectory->entries = fs::directory_iterator(fs::u8path(iPath.ConvertToChar()), error);
+    return VORStatusFromError(error);
+}
+
+VORStatus VORCloseDirectory(VORDIR* ioDirectory)
+{
+    ioDirectory->entries = fs::directory_iterator();
+    return VOR_S_OK;
+}
+
+VORStatus VORCreateDirectory(const VORUnicodeString& iPath)
+{
+    std::error_code error;
+    const bool created = fs::create_directory(fs::u8path(iPath.ConvertToChar()), error);
+    if (error)
+        return VORStatusFromError(error);
+    return created ? VOR_S_OK : VOR_E_FILE_EXISTS;
+}

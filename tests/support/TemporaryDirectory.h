@@ -1,0 +1,57 @@
+#ifndef TemporaryDirectory_h
+#define TemporaryDirectory_h
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+
+#include <stdlib.h>
+
+/// A fresh directory for one test, removed with all its contents at the end.
+class TemporaryDirectory
+{
+public:
+    TemporaryDirectory()
+    {
+        std::string path = (std::filesystem::temp_directory_path() / "vor-test-XXXXXX").string();
+        if (!::mkdtemp(path.data()))
+            throw std::runtime_error("no temporary directory can be made: " + path);
+        _Path = path;
+    }
+    TemporaryDirectory(const TemporaryDirectory&) = delete;
+    TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
+    ~TemporaryDirectory()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(_Path, ignored);
+    }
+
+    /// The directory itself, without a separator at its end.
+    std::string Path() const { return _Path.string(); }
+    std::string Path(const std::string& iName) const { return (_Path / iName).string(); }
+
+private:
+    std::filesystem::path _Path;
+};
+
+/// The bytes of a file; a file that cannot be read ends the test.
+inline std::string ReadFile(const std::string& iPath)
+{
+    std::ifstream file(iPath, std::ios::binary);
+    if (!file)
+        throw std::runtime_error("cannot be read: " + iPath);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+inline void WriteFile(const std::string& iPath, const std::string& iText)
+{
+    std::ofstream file(iPath, std::ios::binary);
+    file << iText << std::flush;
+    if (!file)
+        throw std::runtime_error("cannot be written: " + iPath);
+}
+
+#endif
