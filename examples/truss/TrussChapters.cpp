@@ -1,0 +1,365 @@
+#include "TrussChapters.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+#include <Eigen/Geometry>
+
+#include "TrussFigures.h"
+#include "VORKTRReportingFile.h"
+#include "VORKTRReportingList.h"
+#include "VORKTRReportingTable.h"
+#include "VORKTRReportingText.h"
+#include "VORKTRReportingTitle.h"
+
+namespace truss
+{
+namespace
+{
+
+VORUnicodeString Unicode(const std::string& iText)
+{
+    return VORUnicodeString(iText.c_str());
+}
+
+void AddTitle(VORKTRReportingBag& ioBag, const std::string& iText, int iLevel)
+{
+    ioBag.AddObject(new VORKTRReportingTitle(Unicode(iText), iLevel));
+}
+
+void AddText(VORKTRReportingBag& ioBag, const std::string& iText)
+{
+    ioBag.AddObject(new VORKTRReportingText(Unicode(iText)));
+}
+
+void AddLine(VORKTRReportingList& ioList, const std::string& iLabel, double iValue,
+             const std::string& iUnit, const char* iFormat = "%#.6g")
+{
+    ioList.addLine(Unicode(iLabel), iValue, Unicode(iUnit), iFormat);
+}
+
+template <typename Count>
+void AddCount(VORKTRReportingList& ioList, const char* iLabel, Count iCount)
+{
+    ioList.addLine(iLabel, static_cast<int>(iCount), "", "%d");
+}
+
+struct Column {
+    std::string quantity;
+    std::string unit = {};
+};
+
+/// A table row: names first, then numbers.
+struct Row {
+    std::vector<std::string> names;
+    std::vector<double> numbers;
+};
+
+/// Fixed-point with six digits for the largest number, so that the decimal points of a column stand
+/// below each other; with an exponent for what would need many zeros.
+std::string NumberFormat(double iLargest)
+{
+    const double exponent = iLargest > 0 ? std::floor(std::log10(iLargest)) : 0;
+    if (exponent < -3 || exponent > 5)
+        return "%11.4e";
+    return "%10." + std::to_string(std::max(5 - static_cast<int>(exponent), 1)) + "f";
+}
+
+/// What is as small as a rounding error becomes a plain zero, a negative zero too.
+double WithoutNoise(double iNumber, double iLargest)
+{
+    return std::abs(iNumber) > 1e-12 * iLargest ? iNumber : 0;
+}
+
+/// Largest magnitude in the number columns of one unit. They share a format, as the components of a
+/// vector do.
+double LargestOfUnit(const std::vector<Column>& iColumns, const std::vector<Row>& iRows,
+                     const std::string& iUnit)
+{
+    double largest = 0;
+    for (const Row& row : iRows) {
+        for (std::size_t i = 0; i < row.numbers.size(); ++i) {
+            if (iColumns[row.names.size() + i].unit == iUnit)
+                largest = std::max(largest, std::abs(row.numbers[i]));
+        }
+    }
+    return largest;
+}
+
+/// Adds a table with a header row and rules between the columns.
+void AddTable(VORKTRReportingBag& ioBag, const std::vector<Column>& iColumns,
+              const std::vector<Row>& iRows)
+{
+    auto table = std::make_unique<VORKTRReportingTable>(0x01 | 0x08);
+    for (std::size_t i = 0; i < iColumns.size(); ++i) {
+        const int column = static_cast<int>(i);
+        const std::string& unit = iColumns[i].unit;
+        table->SetText(0, column,
+                       Unicode(iColumns[i].quantity + (unit.empty() ? "" : "\n" + unit)));
+        const double largest = LargestOfUnit(iColumns, iRows, unit);
+        const std::string format = NumberFormat(largest);
+        int line = 0;
+        for (const Row& row : iRows) {
+            ++line;
+            if (i < row.names.size())
+                table->SetText(line, column, Unicode(row.names[i]));
+            else
+                table->SetFloat(line, column,
+                                WithoutNoise(row.numbers[i - row.names.size()], largest),
+                                format.c_str());
+        }
+    }
+    ioBag.AddObject(table.release());
+}
+
+/// Adds a table of the vectors of those nodes that iHas accepts.
+void AddVectorTable(VORKTRReportingBag& ioBag, const Model& iModel, const std::string& iSymbol,
+                    const std::string& iUnit, const std::vector<Vector>& iVectors,
+                    const std::function<bool(std::size_t)>& iHas)
+{
+    std::vector<Row> rows;
+    for (std::size_t i = 0; i < iVectors.size(); ++i) {
+        const Vector& vector = iVectors[i];
+        if (iHas(i))
+            rows.push_back(
+                {{iModel.nodes[i].name}, {vector.x(), vector.y(), vector.z(), vector.norm()}});
+    }
+    AddTable(ioBag,
+             {{"node"},
+              {iSymbol + "x", iUnit},
+              {iSymbol + "y", iUnit},
+              {iSymbol + "z", iUnit},
+              {"|" + iSymbol + "|", iUnit}},
+             rows);
+}
+
+double Sum(const std::vector<Bar>& iBars, const std::function<double(const Bar&)>& iValue)
+{
+    double sum = 0;
+    for (const Bar& bar : iBars)
+        sum += iValue(bar);
+    return sum;
+}
+
+void AddModelList(VORKTRReportingBag& ioBag, const Model& iModel)
+{
+    Eigen::Index fixedNb = 0;
+    for (const Node& node : iModel.nodes)
+        fixedNb += node.fixed.count();
+    auto list = std::make_unique<VORKTRReportingList>('=');
+    AddCount(*list, "Nodes", iModel.nodes.size());
+    AddCount(*list, "Bars", iModel.bars.size());
+    AddCount(*list, "Supported directions", fixedNb);
+    AddCount(*list, "Load cases of the model", iModel.cases.size());
+    const Box box = BoxAround(iModel);
+    for (int axis = 0; axis < 3; ++axis)
+        AddLine(*list, std::string("Extent in ") + AxisNames[axis], box.high[axis] - box.low[axis],
+                iModel.lengthUnit);
+    AddLine(*list, "Volume of the bars",
+            Sum(iModel.bars, [&](const Bar& iBar) { return iModel.Volume(iBar); }),
+            iModel.lengthUnit + "^3");
+    const double mass = Sum(iModel.bars, [&](const Bar& iBar) {
+        return iModel.Volume(iBar) * iModel.materials[iBar.material].density;
+    });
+    if (mass > 0)
+        AddLine(*list, "Mass of the bars", mass, iModel.massUnit);
+    ioBag.AddObject(list.release());
+}
+
+std::string Supports(const Node& iNode)
+{
+    std::string directions;
+    for (int axis = 0; axis < 3; ++axis) {
+        if (iNode.fixed[axis])
+            directions += AxisNames[axis];
+    }
+    return directions.empty() ? "-" : directions;
+}
+
+void AddNodes(VORKTRReportingBag& ioBag, const Model& iModel)
+{
+    std::vector<Row> rows;
+    for (const Node& node : iModel.nodes)
+        rows.push_back({{node.name, Supports(node)},
+                        {node.position.x(), node.position.y(), node.position.z()}});
+    const std::string& unit = iModel.lengthUnit;
+    AddTable(ioBag, {{"node"}, {"fixed"}, {"x", unit}, {"y", unit}, {"z", unit}}, rows);
+}
+
+void AddMaterials(VORKTRReportingBag& ioBag, const Model& iModel)
+{
+    std::vector<Row> rows;
+    for (const Material& material : iModel.materials)
+        rows.push_back({{material.name}, {material.modulus, material.density}});
+    AddTable(ioBag,
+             {{"material"},
+              {"modulus", iModel.StressUnit()},
+              {"density", iModel.massUnit + "/" + iModel.lengthUnit + "^3"}},
+             rows);
+}
+
+void AddBars(VORKTRReportingBag& ioBag, const Model& iModel)
+{
+    std::vector<Row> rows;
+    for (const Bar& bar : iModel.bars)
+        rows.push_back({{bar.name, iModel.nodes[bar.start].name, iModel.nodes[bar.end].name,
+                         iModel.materials[bar.material].name},
+                        {bar.area, iModel.Length(bar)}});
+    AddTable(ioBag,
+             {{"bar"},
+              {"from"},
+              {"to"},
+              {"material"},
+              {"area", iModel.lengthUnit + "^2"},
+              {"length", iModel.lengthUnit}},
+             rows);
+}
+
+void AddBarResults(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution)
+{
+    std::vector<Row> rows;
+    for (std::size_t i = 0; i < iModel.bars.size(); ++i) {
+        const BarResult& result = iSolution.bars[i];
+        rows.push_back({{iModel.bars[i].name}, {result.elongation, result.force, result.stress}});
+    }
+    AddTable(ioBag,
+             {{"bar"},
+              {"elongation", iModel.lengthUnit},
+              {"force", iModel.forceUnit},
+              {"stress", iModel.StressUnit()}},
+             rows);
+}
+
+std::size_t LargestDisplacement(const Solution& iSolution)
+{
+    const auto isSmaller = [](const Vector& iLeft, const Vector& iRight) {
+        return iLeft.norm() < iRight.norm();
+    };
+    const auto& all = iSolution.displacements;
+    return static_cast<std::size_t>(std::max_element(all.begin(), all.end(), isSmaller) -
+                                    all.begin());
+}
+
+/// The bars of the smallest and of the largest stress.
+std::pair<std::size_t, std::size_t> StressRange(const Solution& iSolution)
+{
+    const auto isSmaller = [](const BarResult& iLeft, const BarResult& iRight) {
+        return iLeft.stress < iRight.stress;
+    };
+    const auto& all = iSolution.bars;
+    const auto range = std::minmax_element(all.begin(), all.end(), isSmaller);
+    return {static_cast<std::size_t>(range.first - all.begin()),
+            static_cast<std::size_t>(range.second - all.begin())};
+}
+
+void AddDrawing(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution,
+                const std::string& iPath, int iFigure)
+{
+    const double scale = DisplacementScale(iModel, iSolution);
+    AddText(ioBag, "Figure " + std::to_string(iFigure) +
+                       " shows the loads and the deformed structure in isometric projection.\n"
+                       "The displacements are enlarged " +
+                       ShortNumber(scale) + " times; the colours give the stresses.\n");
+    ioBag.AddObject(new VORKTRReportingFile(VORKTRReportingImage, iPath.c_str()));
+}
+
+/// Half of what the loads would do at full strength all the way.
+double WorkOfLoads(const Solution& iSolution)
+{
+    double work = 0;
+    for (std::size_t i = 0; i < iSolution.loads.size(); ++i)
+        work += iSolution.loads[i].dot(iSolution.displacements[i]) / 2;
+    return work;
+}
+
+double StrainEnergy(const Solution& iSolution)
+{
+    double energy = 0;
+    for (const BarResult& bar : iSolution.bars)
+        energy += bar.force * bar.elongation / 2;
+    return energy;
+}
+
+void AddCheck(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution,
+              double iSmallestPivot)
+{
+    Vector force = Vector::Zero();
+    Vector moment = Vector::Zero();
+    for (std::size_t i = 0; i < iModel.nodes.size(); ++i) {
+        const Vector total = iSolution.loads[i] + iSolution.reactions[i];
+        force += total;
+        moment += iModel.nodes[i].position.cross(total);
+    }
+    const std::string& unit = iModel.forceUnit;
+    const std::string work = unit + "*" + iModel.lengthUnit;
+    auto list = std::make_unique<VORKTRReportingList>(':');
+    AddLine(*list, "Largest unbalanced force in a free direction", iSolution.residual, unit,
+            "%.2e");
+    AddLine(*list, "Resultant force of loads and reactions", force.norm(), unit, "%.2e");
+    AddLine(*list, "Their resultant moment about the origin", moment.norm(), work, "%.2e");
+    AddLine(*list, "Work of the loads", WorkOfLoads(iSolution), work);
+    AddLine(*list, "Strain energy of the bars", StrainEnergy(iSolution), work);
+    AddLine(*list, "Smallest pivot by the direction's own stiffness", iSmallestPivot, "", "%.2e");
+    AddText(ioBag, "Forces and moments in the first three lines are 0 but for rounding errors.\n"
+                   "Work and strain energy are equal. A pivot near 0 means a near mechanism.\n");
+    ioBag.AddObject(list.release());
+}
+
+} // namespace
+
+Chapter MakeModelChapter(const Model& iModel, const std::string& iScenePath)
+{
+    auto chapter = std::make_unique<VORKTRReportingBag>();
+    AddTitle(*chapter, "Model", 1);
+    AddModelList(*chapter, iModel);
+    AddTitle(*chapter, "Nodes", 2);
+    AddNodes(*chapter, iModel);
+    AddTitle(*chapter, "Bars", 2);
+    AddTitle(*chapter, "Materials", 3);
+    AddMaterials(*chapter, iModel);
+    AddTitle(*chapter, "Connections and areas", 3);
+    AddBars(*chapter, iModel);
+    AddTitle(*chapter, "Scene", 2);
+    AddText(*chapter, "Figure 1 is the structure as a scene for a VRML viewer.\n"
+                      "The radii of the bars are in proportion to each other, but not to scale.\n");
+    chapter->AddObject(new VORKTRReportingFile(VORKTRReportingVRML, iScenePath.c_str()));
+    return chapter;
+}
+
+Chapter MakeCaseChapter(const Model& iModel, const LoadCase& iCase, const Solution& iSolution,
+                        double iSmallestPivot, const std::string& iDrawingPath, int iFigure)
+{
+    const auto isLoaded = [&](std::size_t iNode) { return !iSolution.loads[iNode].isZero(0); };
+    const auto isSupported = [&](std::size_t iNode) { return iModel.nodes[iNode].fixed.any(); };
+    const auto isAny = [](std::size_t) { return true; };
+    auto chapter = std::make_unique<VORKTRReportingBag>();
+    AddTitle(*chapter, "Load case " + iCase.name, 1);
+    AddText(*chapter, Summarise(iModel, iCase, iSolution));
+    AddDrawing(*chapter, iModel, iSolution, iDrawingPath, iFigure);
+    AddTitle(*chapter, "Displacements", 2);
+    AddVectorTable(*chapter, iModel, "u", iModel.lengthUnit, iSolution.displacements, isAny);
+    AddTitle(*chapter, "Bar forces and stresses", 2);
+    AddText(*chapter, "Tension is positive.\n");
+    AddBarResults(*chapter, iModel, iSolution);
+    AddTitle(*chapter, "Loads and reactions", 2);
+    AddTitle(*chapter, "Loads", 3);
+    AddVectorTable(*chapter, iModel, "F", iModel.forceUnit, iSolution.loads, isLoaded);
+    AddTitle(*chapter, "Reactions", 3);
+    AddVectorTable(*chapter, iModel, "R", iModel.forceUnit, iSolution.reactions, isSupported);
+    AddTitle(*chapter, "Check of the solution", 2);
+    AddCheck(*chapter, iModel, iSolution, iSmallestPivot);
+    return chapter;
+}
+
+std::string Summarise(const Model& iModel, const LoadCase& iCase, const Solution& iSolution)
+{
+    const std::size_t node = LargestDisplacement(iSolution);
+    const auto [smallest, largest] = StressRange(iSolution);
+    return "Load case " + iCase.name + " moves node " + iModel.nodes[node].name + " most, by " +
+           ShortNumber(iSolution.displacements[node].norm()) + " " + iModel.lengthUnit +
+           ".\nIts stresses range from " + ShortNumber(iSolution.bars[smallest].stress) + " to " +
+           ShortNumber(iSolution.bars[largest].stress) + " " + iModel.StressUnit() + ".\n";
+}
+
+} // namespace truss
