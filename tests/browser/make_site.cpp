@@ -1,0 +1,95 @@
+// Writes the two sites that the browser tests read: DIRECTORY/frames and DIRECTORY/single.
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+#include "VORKTRReportTools.h"
+#include "VORKTRReportingBuffer.h"
+#include "VORKTRReportingFile.h"
+#include "VORKTRReportingList.h"
+#include "VORKTRReportingTable.h"
+#include "VORKTRReportingText.h"
+#include "VORKTRReportingTitle.h"
+
+namespace
+{
+
+// One transparent pixel.
+constexpr std::string_view
+    Pixel("GIF89a\1\0\1\0\x80\0\0\xff\xff\xff\0\0\0!\xf9\4\1\0\0\0\0,\0\0\0\0"
+          "\1\0\1\0\0\2\2D\1\0;",
+          43);
+constexpr std::string_view Drawing =
+    "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"120\" height=\"80\">"
+    "<circle cx=\"60\" cy=\"40\" r=\"30\" fill=\"purple\"/></svg>";
+
+void WriteFile(const std::string& iPath, std::string_view iBytes)
+{
+    std::ofstream(iPath, std::ios::binary) << iBytes;
+}
+
+VORKTRReportingList* MakeList()
+{
+    auto* const list = new VORKTRReportingList(':');
+    list->addLine("Stress \u03c3", 12.5f, "N/mm\u00b2", "%.2f");
+    list->addLine("Cycles", 400, "", "%d");
+    list->addLine("Material", "<S355> & co", "");
+    return list;
+}
+
+VORKTRReportingTable* MakeTable()
+{
+    auto* const table = new VORKTRReportingTable(0x01 | 0x08);
+    table->SetText(0, 0, "Node");
+    table->SetText(0, 1, "Displacement [\u00b5m]");
+    table->SetText(1, 0, "A<1> & \u03b1");
+    table->SetFloat(1, 1, -0.25f, "%.3f");
+    table->SetInt(2, 0, 7, "%03d");
+    return table;
+}
+
+void AddChapter(VORKTRReportingBuffer& ioReport, const VORUnicodeString& iHeading)
+{
+    ioReport.AddObject(new VORKTRReportingTitle(iHeading, 1));
+    ioReport.AddObject(
+        new VORKTRReportingText("a < b & c > d\ttab\nsecond line: 20 \u00b0C, \u56f3"));
+    ioReport.AddObject(MakeList());
+    ioReport.AddObject(new VORKTRReportingTitle("Details of " + iHeading, 3));
+    // Long enough to scroll: a heading at the end is out of sight first.
+    for (int i = 0; i < 60; ++i)
+        ioReport.AddObject(new VORKTRReportingText("A paragraph between two headings."));
+    ioReport.AddObject(new VORKTRReportingTitle("Tables of " + iHeading, 4));
+    ioReport.AddObject(MakeTable());
+}
+
+bool WriteSite(const std::string& iDirectory, int iChapters)
+{
+    VORKTRReportTools::InitFigureNumber();
+    VORKTRReportingBuffer report;
+    for (int chapter = 1; chapter <= iChapters; ++chapter)
+        AddChapter(report, "Chapter " + VORUnicodeString(std::to_string(chapter).c_str()));
+    const std::string drawing = iDirectory + ".svg";
+    WriteFile(drawing, Drawing);
+    report.AddObject(new VORKTRReportingFile(VORKTRReportingImage, drawing.c_str()));
+    return report.MakeReport(iDirectory.c_str(), "Bridge \u00c4 1") == 0 &&
+           report.MakeReloadPage() == 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: make_site DIRECTORY\n");
+        return 2;
+    }
+    const std::string directory = argv[1];
+    WriteFile(directory + "/Corp.gif", Pixel);
+    setenv("VORGraphicPath", directory.c_str(), 1);
+    const bool isWritten =
+        WriteSite(directory + "/frames", 3) && WriteSite(directory + "/single", 1);
+    return isWritten ? 0 : 1;
+}
