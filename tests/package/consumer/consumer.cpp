@@ -1,0 +1,71 @@
+// Writes a report with an item of its own into the directory given, and checks what it wrote.
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "VORFile.h"
+#include "VORKTRReportingBuffer.h"
+#include "VORKTRReportingList.h"
+#include "VORKTRReportingObj.h"
+#include "VORKTRReportingTable.h"
+
+namespace
+{
+
+/// A traffic light: a coloured cell in HTML, a word in text.
+class Light : public VORKTRReportingObj
+{
+public:
+    explicit Light(const char* iColour) : _Colour(iColour) {}
+
+    int GetType() const override { return 100; }
+    void Report(unsigned int iFile, const char*, unsigned char, unsigned int) const override
+    {
+        const VORUnicodeString html = "<B CLASS=\"" + _Colour + "\">" + _Colour + "</B>";
+        VORFWrite(iFile, html.ConvertToChar(), static_cast<std::size_t>(html.GetLengthInByte()),
+                  nullptr);
+    }
+    void ASCIIReport(VORUnicodeString& ioText) const override { ioText += _Colour; }
+    int GetWidthInChar() const override { return _Colour.GetLengthInChar(); }
+
+private:
+    VORUnicodeString _Colour;
+};
+
+bool Contains(const std::string& iText, const std::string& iPart)
+{
+    const bool found = iText.find(iPart) != std::string::npos;
+    if (!found)
+        std::fprintf(stderr, "missing: %s\nin:\n%s\n", iPart.c_str(), iText.c_str());
+    return found;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2)
+        return 2;
+    VORKTRReportingBuffer report;
+    report.AddObject(new Light("green"));
+    auto* const list = new VORKTRReportingList(':');
+    list->addLine("State", new Light("red"), "");
+    report.AddObject(list);
+    auto* const table = new VORKTRReportingTable(0x10);
+    table->SetObj(0, 0, new Light("yellow"));
+    report.AddObject(table);
+    VORUnicodeString text;
+    if (report.MakeReport(argv[1], "Lights") != 0 || report.MakeTextReport("", text) != 0)
+        return 1;
+
+    std::ifstream page(std::string(argv[1]) + "/index.html");
+    const std::string html{std::istreambuf_iterator<char>(page), std::istreambuf_iterator<char>()};
+    const bool isRight =
+        Contains(html, "</P>\n<B CLASS=\"green\">green</B><P>\n<TABLE BORDER=0>\n") &&
+        Contains(html, "<TD ALIGN=RIGHT><B CLASS=\"red\">red</B></TD>\n") &&
+        Contains(html, "<TD ALIGN=CENTER><B CLASS=\"yellow\">yellow</B></TD>\n") &&
+        Contains(text.ConvertToChar(), "green  State : red\n    yellow  \n");
+    return isRight ? 0 : 1;
+}
