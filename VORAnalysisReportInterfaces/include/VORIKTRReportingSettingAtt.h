@@ -35,10 +35,10 @@ public:
     virtual int GetReservedSetting3();
     /// @}
 
-    /// Sets oPath to the full path of the user's background image (UTF-8); a bare file name
-    /// is ignored. Called only when
-    /// GetDefaultBackground gave 0; on a negative status the page falls back to the standard image
-    /// or the plain colour.
+    /// Sets oPath to the full path of the user's background image (UTF-8); a bare file name is
+    /// ignored. Called only when GetDefaultBackground gave 0. On a negative status the first page
+    /// takes the standard image, else the background of the process so far, later pages the plain
+    /// colour.
     virtual int GetBackgroundPath(VORUnicodeString& oPath) = 0;
 
 private:

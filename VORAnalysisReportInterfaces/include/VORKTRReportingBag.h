@@ -1,8 +1,6 @@
 #ifndef VORKTRReportingBag_h
 #define VORKTRReportingBag_h
 
-#include <memory>
-
 #include "VORKTRReportingObj.h"
 #include "VORKTRSteppedArray.h"
 
@@ -40,7 +38,7 @@ public:
     void Reallocate() { _ObjectList.Reallocate(); }
 
 private:
-    VORKTRSteppedArray<std::unique_ptr<VORKTRReportingObj>> _ObjectList;
+    VORKTRItemArray _ObjectList;
 };
 
 #endif

@@ -2,7 +2,6 @@
 #define VORKTRReportingBuffer_h
 
 #include <forward_list>
-#include <memory>
 
 #include "VORAnalysisReportInterfacesExport.h"
 #include "VORKTRReportingObj.h"
@@ -61,11 +60,13 @@ public:
     /// Writes the report as a web site into iDirectory (UTF-8), which is created when absent, but
     /// not its parents, and never emptied: files of the same names are overwritten. iTitle heads
     /// the site; it is HTML, not escaped. A report is written once; Update rewrites it. Fails when
-    /// the directory cannot be created or written or a page cannot be opened.
+    /// the directory cannot be created or written or a stylesheet or the first page cannot be
+    /// opened. A later page that cannot be opened shows in no status: its content is left out.
     int MakeReport(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle);
 
     /// Rewrites the site after items were added or removed. Page numbers start at 1 again; pages
-    /// beyond those of the new site stay on disk. Anchors of the first page, file and figure
+    /// beyond those of the new site stay on disk, but for "page0.html" to "page9.html" as far as
+    /// the old site reached the page numbers 48 to 57. Anchors of the first page, file and figure
     /// numbers go on. Fails before the first MakeReport.
     int Update();
 
@@ -105,19 +106,17 @@ public:
     /// @}
 
 private:
-    using Item = std::unique_ptr<VORKTRReportingObj>;
-
     void Adopt(VORKTRReportingObj& ioItem);
     VORUnicodeString* Keep(const VORUnicodeString& iText);
     int BeginFrames();
     int BeginSinglePage();
-    int WriteItems();
-    void ChooseBackground() const;
-    bool UseBackground(const VORUnicodeString& iImage) const;
+    int FlushAndFinish();
+    void ChooseBackground();
+    bool UseBackground(const VORUnicodeString& iImage);
     void DeleteSiteFile(const VORUnicodeString& iName) const;
     void ClosePages();
 
-    VORKTRSteppedArray<Item> _ObjectList; // a removed item leaves a null entry
+    VORKTRItemArray _ObjectList;
     int _IncludedFilesNb = 0;
     int _PagesNb = 1;
     int _Index = 1;

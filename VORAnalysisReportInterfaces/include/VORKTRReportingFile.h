@@ -20,12 +20,12 @@ enum VORKTRReportingFileType : int {
 
 /// An included file. It is moved into the report directory under a generated name ("file1.png", or
 /// with a time stamp "file1_68a2c0de.png") when the item learns that directory: give a copy of what
-/// must stay where it is. Images are numbered as figures; as plain text a file is a word in
-/// brackets.
+/// must stay where it is. Images are numbered as figures (the other kinds take up a
+/// number without showing it); as plain text a file is a word in brackets.
 class VORKTR_EXPORT VORKTRReportingFile : public VORKTRReportingObj
 {
 public:
-    /// path (UTF-8) is copied and must not be null.
+    /// path (UTF-8) is copied; null counts as empty.
     VORKTRReportingFile(VORKTRReportingFileType type, const char* path);
     ~VORKTRReportingFile() override;
 
@@ -34,8 +34,9 @@ public:
     void SetBufferData(const VORUnicodeString* directory) override;
 
     /// Moves the file into a directory, across file systems by a copy, under a generated name and
-    /// returns that name, which the caller releases with delete[]; null on failure. A copy that
-    /// ended short, as on a full disk, still counts as a move but leaves the source where it is.
+    /// returns that name, which the caller releases with delete[]; null on failure. A file that is
+    /// its own target, by whatever link, stays and counts as moved. A copy that ended short, as on
+    /// a full disk, still counts as a move but leaves the source where it is.
     char* MoveFile(const char* directory) const;
 
     /// Deletes the file: the moved one, or the caller's own when it was never moved. Returns 0, or
@@ -50,7 +51,6 @@ public:
     void ASCIIReport_in_Table(VORUnicodeString& ioText) const override;
 
 private:
-    VORString GenerateName() const;
     void WriteEmbed(unsigned int iFile, std::string_view iAttributes) const;
     const char* GetWord() const;
 

@@ -12,7 +12,8 @@ public:
     VORKTRReportingInt(int value, const char* format);
     ~VORKTRReportingInt() override;
 
-    /// The formatted number in a new string, which the caller releases with free().
+    /// The formatted number in a new string, which the caller releases with free(); null when
+    /// there is no memory for it.
     char* ConvertToChar() const;
 
     int GetType() const override;

@@ -28,9 +28,9 @@ public:
                 const char* format);
     /// @}
 
-    /// Adds a line with any item as its value and takes ownership of it; null leaves the line
-    /// without one. Returns 0. The list tells the item neither its report nor the directory: call
-    /// SetBuffer on a heading, SetBuffer and SetBufferData on a file.
+    /// Adds a line with any item as its value and takes ownership of it, also when memory runs out;
+    /// null leaves the line without one. Returns 0. The list tells the item neither its report nor
+    /// the directory: call SetBuffer on a heading, SetBuffer and SetBufferData on a file.
     int addLine(const VORUnicodeString& label, VORKTRReportingObj* value,
                 const VORUnicodeString& unit);
 
@@ -65,8 +65,8 @@ private:
         VORUnicodeString unit;
     };
 
-    int AddLine(const VORUnicodeString& iLabel, std::unique_ptr<VORKTRReportingObj> ioValue,
-                const VORUnicodeString& iUnit);
+    int Store(const VORUnicodeString& iLabel, std::unique_ptr<VORKTRReportingObj> ioValue,
+              const VORUnicodeString& iUnit);
     bool HasFloats() const;
     void WriteSeparatorCell(unsigned int iFile, const Line& iLine) const;
     void AppendValue(VORUnicodeString& out, const Line& iLine, int iValueWidth,

@@ -63,8 +63,8 @@ public:
     virtual void SetBufferData(const VORUnicodeString* iPath);
 
 protected:
-    VORKTRReportingBuffer* _Buffer =
-        nullptr; ///< The item's report, not owned; null before one takes it.
+    /// The item's report, not owned; null before one takes it.
+    VORKTRReportingBuffer* _Buffer = nullptr;
 };
 
 #endif

@@ -29,17 +29,20 @@ public:
     int SetText(int row, int col, const VORUnicodeString& text);
     /// @}
 
-    /// Sets a cell to any item and takes ownership of it; never twice with the same item. Returns
-    /// 0, or 0x80004005 for a null item and for a negative row or column: the item stays the
-    /// caller's. The table tells the item neither its report nor the directory: call SetBuffer on
-    /// a heading, SetBuffer and SetBufferData on a file.
+    /// Sets a cell to any item and takes ownership of it, also when memory runs out on the way;
+    /// never twice with the same item. Returns 0, or 0x80004005 for a null item and for a negative
+    /// row or column: the item stays the caller's. The table tells the item neither its report nor
+    /// the directory: call SetBuffer on a heading, SetBuffer and SetBufferData on a file.
     int SetObj(int row, int col, VORKTRReportingObj* item);
 
     /// @{ Size of the grid.
     int GetRowNumber() const { return _RowNb; }
     int GetColumnNumber() const { return _ColumnNb; }
     /// @}
-    /// Grows the grid so that it holds a cell, which must not be negative.
+
+    /// Grows the grid so that it holds a cell; row and column are from 0 to below INT_MAX. Throws
+    /// std::bad_alloc or std::length_error, the table being as it was, when there is no memory for
+    /// it; so does every setting of a cell.
     void Reallocate(int row, int col);
 
     /// Widths of the columns in characters: a new array, which the caller releases with delete[].
@@ -71,7 +74,8 @@ private:
         return static_cast<std::size_t>(iRow) * _Stride + static_cast<std::size_t>(iColumn);
     }
 
-    int Place(int iRow, int iColumn, Cell ioItem);
+    template <typename ItemClass, typename... Arguments>
+    int SetNew(int iRow, int iColumn, const Arguments&... iArguments);
     void Widen(std::size_t iColumns);
     char CellStyle(int iRow, int iColumn) const;
     bool HasRuleBelow(int iRow) const;

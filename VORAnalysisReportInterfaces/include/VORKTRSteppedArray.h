@@ -2,6 +2,7 @@
 #define VORKTRSteppedArray_h
 
 #include <cstddef>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -32,17 +33,12 @@ public:
             _Capacity += Step;
     }
 
-    /// Adds an entry at the end.
-    void Append(Entry&& ioEntry)
-    {
-        Reallocate();
-        _Entries.push_back(std::move(ioEntry));
-    }
+    /// Adds an entry at the end, room for it having been made.
+    void Append(Entry&& ioEntry) { _Entries.push_back(std::move(ioEntry)); }
 
-    /// Adds an entry before a position that Holds.
+    /// Adds an entry before a position that Holds, room for it having been made.
     void Insert(int iIndex, Entry&& ioEntry)
     {
-        Reallocate();
         _Entries.insert(_Entries.begin() + iIndex, std::move(ioEntry));
     }
 
@@ -52,5 +48,10 @@ private:
     std::vector<Entry> _Entries;
     int _Capacity = Step;
 };
+
+class VORKTRReportingObj;
+
+/// The items of a report or a bag; a removed one leaves a null entry.
+using VORKTRItemArray = VORKTRSteppedArray<std::unique_ptr<VORKTRReportingObj>>;
 
 #endif

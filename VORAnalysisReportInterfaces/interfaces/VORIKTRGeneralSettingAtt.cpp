@@ -10,10 +10,8 @@ VORMetaClass* VORIKTRGeneralSettingAtt::meta_object = nullptr;
 
 VORMetaClass* VORIKTRGeneralSettingAtt::MetaObject()
 {
-    if (!meta_object)
-        meta_object =
-            MakeInterfaceMetaObject(IID_VORIKTRGeneralSettingAtt, "VORIKTRGeneralSettingAtt");
-    return meta_object;
+    return InterfaceMetaObject(meta_object, IID_VORIKTRGeneralSettingAtt,
+                               "VORIKTRGeneralSettingAtt");
 }
 
 const GUID& VORIKTRGeneralSettingAtt::ClassId()

@@ -10,9 +10,7 @@ VORMetaClass* VORIKTRReporting::meta_object = nullptr;
 
 VORMetaClass* VORIKTRReporting::MetaObject()
 {
-    if (!meta_object)
-        meta_object = MakeInterfaceMetaObject(IID_VORIKTRReporting, "VORIKTRReporting");
-    return meta_object;
+    return InterfaceMetaObject(meta_object, IID_VORIKTRReporting, "VORIKTRReporting");
 }
 
 const GUID& VORIKTRReporting::ClassId()

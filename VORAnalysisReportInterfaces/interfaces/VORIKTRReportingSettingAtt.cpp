@@ -10,10 +10,8 @@ VORMetaClass* VORIKTRReportingSettingAtt::meta_object = nullptr;
 
 VORMetaClass* VORIKTRReportingSettingAtt::MetaObject()
 {
-    if (!meta_object)
-        meta_object =
-            MakeInterfaceMetaObject(IID_VORIKTRReportingSettingAtt, "VORIKTRReportingSettingAtt");
-    return meta_object;
+    return InterfaceMetaObject(meta_object, IID_VORIKTRReportingSettingAtt,
+                               "VORIKTRReportingSettingAtt");
 }
 
 const GUID& VORIKTRReportingSettingAtt::ClassId()

@@ -5,13 +5,15 @@
 #include "VORBaseUnknown.h"
 #include "VORDictionary.h"
 
-VORMetaClass* MakeInterfaceMetaObject(const GUID& iId, const char* iName)
+VORMetaClass* InterfaceMetaObject(VORMetaClass*& ioMetaObject, const GUID& iId, const char* iName)
 {
-    auto* const metaObject = new (std::nothrow)
+    if (ioMetaObject)
+        return ioMetaObject;
+    ioMetaObject = new (std::nothrow)
         VORMetaClass(&iId, iName, VORBaseUnknown::MetaObject(), nullptr, VORInterfaceKind);
-    AddDictionary(iId, CLSID_VORMetaClass, iName, "MetaObject", nullptr, metaObject, nullptr,
+    AddDictionary(iId, CLSID_VORMetaClass, iName, "MetaObject", nullptr, ioMetaObject, nullptr,
                   nullptr, 1, 0, 2, nullptr);
-    if (metaObject)
-        metaObject->SetFWname("VORAnalysisReportInterfaces");
-    return metaObject;
+    if (ioMetaObject)
+        ioMetaObject->SetFWname("VORAnalysisReportInterfaces");
+    return ioMetaObject;
 }

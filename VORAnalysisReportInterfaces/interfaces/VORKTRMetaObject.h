@@ -3,8 +3,8 @@
 
 #include "VORMetaClass.h"
 
-/// Makes the meta object of one of the library's interfaces and enters it in the dictionary. It
-/// lives as long as the library. Null when there is no memory for it.
-VORMetaClass* MakeInterfaceMetaObject(const GUID& iId, const char* iName);
+/// The meta object of one of the library's interfaces, made and entered in the dictionary while
+/// ioMetaObject is null. It lives as long as the library. Null when there is no memory for it.
+VORMetaClass* InterfaceMetaObject(VORMetaClass*& ioMetaObject, const GUID& iId, const char* iName);
 
 #endif

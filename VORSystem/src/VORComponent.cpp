@@ -33,5 +33,7 @@ VORStatus VORInstantiateComponent(const char* iName, const GUID& iId, void** oIn
         return VOR_E_FAIL;
     const VORStatus status = component->QueryInterface(iId, oInterface);
     component->Release();
+    if (status < 0)
+        *oInterface = nullptr; // whatever the component left there
     return status;
 }

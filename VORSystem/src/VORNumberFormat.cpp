@@ -208,7 +208,7 @@ public:
 private:
     static locale_t CLocale()
     {
-        static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+        static const locale_t locale = newlocale(LC_NUMERIC_MASK, "C", nullptr);
         return locale;
     }
 

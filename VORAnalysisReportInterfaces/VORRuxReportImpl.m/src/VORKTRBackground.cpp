@@ -1,5 +1,7 @@
 #include "VORKTRBackground.h"
 
+#include <memory>
+
 #include "VORComponent.h"
 #include "VORFile.h"
 #include "VORIKTRReportingSettingAtt.h"
@@ -10,25 +12,21 @@ VORUnicodeString ImageBackground(const VORUnicodeString& iFileName)
     return VORUnicodeString("BACKGROUND=\"").Append(iFileName).Append("\"");
 }
 
-BackgroundSetting ReadBackgroundSetting()
-{
-    BackgroundSetting setting;
-    void* found = nullptr;
-    VORInstantiateComponent("VORKTRReportingSettingCtrl", IID_VORIKTRReportingSettingAtt, &found);
-    if (!found)
-        return setting;
-    auto* const settings = static_cast<VORIKTRReportingSettingAtt*>(found);
-    unsigned char isStandard = 1;
-    if (settings->GetDefaultBackground(isStandard) >= 0)
-        setting.isStandard = isStandard != 0;
-    if (!setting.isStandard && settings->GetBackgroundPath(setting.image) < 0)
-        setting.image = VORUnicodeString();
-    settings->Release();
-    return setting;
-}
-
 namespace
 {
+
+struct Releaser {
+    void operator()(IUnknown* ioObject) const { ioObject->Release(); }
+};
+using SettingsPointer = std::unique_ptr<VORIKTRReportingSettingAtt, Releaser>;
+
+SettingsPointer FindSettings()
+{
+    void* found = nullptr;
+    const int status = VORInstantiateComponent("VORKTRReportingSettingCtrl",
+                                               IID_VORIKTRReportingSettingAtt, &found);
+    return SettingsPointer(status < 0 ? nullptr : static_cast<VORIKTRReportingSettingAtt*>(found));
+}
 
 bool IsStandardImageIn(const char* iPath)
 {
@@ -38,6 +36,20 @@ bool IsStandardImageIn(const char* iPath)
 }
 
 } // namespace
+
+BackgroundSetting ReadBackgroundSetting()
+{
+    BackgroundSetting setting;
+    const SettingsPointer settings = FindSettings();
+    if (!settings)
+        return setting;
+    unsigned char isStandard = 1;
+    if (settings->GetDefaultBackground(isStandard) >= 0)
+        setting.isStandard = isStandard != 0;
+    if (!setting.isStandard && settings->GetBackgroundPath(setting.image) < 0)
+        setting.image = VORUnicodeString();
+    return setting;
+}
 
 VORUnicodeString ChoosePageBackground(const char* iPath)
 {

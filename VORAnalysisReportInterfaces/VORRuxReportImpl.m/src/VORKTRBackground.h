@@ -18,8 +18,8 @@ struct BackgroundSetting {
 /// Asks the settings component; without one, the standard background.
 BackgroundSetting ReadBackgroundSetting();
 
-/// The attribute for a later page of a site: the setting is read again, and only an image that the
-/// run may have copied into the directory iPath is named.
+/// The attribute for a later page of a site in the directory iPath, for which the setting is read
+/// again: the standard image when it is there, the user's when the directory it comes from exists.
 VORUnicodeString ChoosePageBackground(const char* iPath);
 
 #endif

@@ -1,12 +1,8 @@
 #ifndef VORKTRItems_h
 #define VORKTRItems_h
 
-#include <memory>
-
-#include "VORKTRReportingObj.h"
+#include "VORKTRReportingTitle.h"
 #include "VORKTRSteppedArray.h"
-
-using VORKTRItemArray = VORKTRSteppedArray<std::unique_ptr<VORKTRReportingObj>>;
 
 /// Calls iVisit with each item in order. Positions emptied by a removal are skipped; items that are
 /// added on the way are visited too.
@@ -25,6 +21,13 @@ inline int RemoveItem(VORKTRItemArray& ioItems, int iIndex)
     const int status = ioItems[iIndex]->RemoveFromReport();
     ioItems[iIndex].reset();
     return status;
+}
+
+/// True for a heading of level iOrder.
+inline bool IsTitle(const VORKTRReportingObj& iItem, int iOrder)
+{
+    return iItem.GetType() == VORKTRReportingTitleKind &&
+           static_cast<const VORKTRReportingTitle&>(iItem).GetOrder() == iOrder;
 }
 
 #endif

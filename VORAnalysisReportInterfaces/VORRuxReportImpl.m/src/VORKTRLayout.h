@@ -8,8 +8,8 @@
 // The page of the plain-text report.
 
 constexpr int PageWidth = 80;
-constexpr int FrameWidth = 78;      // the rules of a framed line, behind one blank
-constexpr int FrameInnerWidth = 76; // between its bars
+constexpr int FrameInnerWidth = 76;             // between the bars of a framed line
+constexpr int FrameWidth = FrameInnerWidth + 2; // of its rules, behind one blank
 
 /// A run of one character; empty when the count is not positive.
 inline VORUnicodeString Repeat(char iChar, int iCount)

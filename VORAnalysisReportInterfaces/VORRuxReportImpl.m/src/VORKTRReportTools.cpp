@@ -23,7 +23,7 @@ int VORKTRReportTools::StartBrowser(const VORUnicodeString& page, unsigned char)
         return 0;
     VORUnicodeString command;
     VORFindPath("RunNs.sh", VORGetEnv("VORCommandPath"), command);
-    if (!(command != ""))
+    if (command == "")
         return -1;
     command.Append(" ").Append(page);
     return std::system(command.CastToCharPtr());

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "VORKTRItems.h"
-#include "VORKTRReportingTitle.h"
 
 VORKTRReportingBag::VORKTRReportingBag() = default;
 VORKTRReportingBag::~VORKTRReportingBag() = default;
@@ -60,6 +59,7 @@ void VORKTRReportingBag::AddObject(VORKTRReportingObj* iObject)
 {
     if (!iObject)
         return;
+    Reallocate();
     iObject->SetBuffer(_Buffer);
     _ObjectList.Append(std::unique_ptr<VORKTRReportingObj>(iObject));
 }
@@ -67,10 +67,7 @@ void VORKTRReportingBag::AddObject(VORKTRReportingObj* iObject)
 int VORKTRReportingBag::GetNbTitles(int iOrder)
 {
     int count = 0;
-    ForEachItem(_ObjectList, [&](const VORKTRReportingObj& child) {
-        if (child.GetType() == VORKTRReportingTitleKind &&
-            static_cast<const VORKTRReportingTitle&>(child).GetOrder() == iOrder)
-            ++count;
-    });
+    ForEachItem(_ObjectList,
+                [&](const VORKTRReportingObj& child) { count += IsTitle(child, iOrder) ? 1 : 0; });
     return count;
 }

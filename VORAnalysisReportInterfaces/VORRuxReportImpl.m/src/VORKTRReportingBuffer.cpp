@@ -9,7 +9,6 @@
 #include "VORKTRItems.h"
 #include "VORKTRLayout.h"
 #include "VORKTRReportingBag.h"
-#include "VORKTRReportingTitle.h"
 #include "VORKTRSite.h"
 #include "VORKTRStylesheets.h"
 #include "VORPath.h"
@@ -40,8 +39,8 @@ int WriteStylesheet(const VORUnicodeString& iDirectory, const char* iName, const
 
 int CountTitles(VORKTRReportingObj& iItem, int iOrder)
 {
-    if (iItem.GetType() == VORKTRReportingTitleKind)
-        return static_cast<VORKTRReportingTitle&>(iItem).GetOrder() == iOrder ? 1 : 0;
+    if (IsTitle(iItem, iOrder))
+        return 1;
     if (iItem.GetType() == VORKTRReportingBagKind)
         return static_cast<VORKTRReportingBag&>(iItem).GetNbTitles(iOrder);
     return 0;
@@ -59,7 +58,7 @@ VORKTRReportingBuffer::~VORKTRReportingBuffer()
     for (int i = 0; i < _ObjectList.GetSize(); ++i)
         _ObjectList[i].reset();
     ClosePages();
-    // The end of a report as the platform's string class sees it.
+    // No effect here; a platform's own string class may count on it as a report's last call.
     VORUnicodeString().BuildFromNum(100, "%#x");
 }
 
@@ -68,7 +67,7 @@ int VORKTRReportingBuffer::AddObject(VORKTRReportingObj* iObject)
     if (!iObject)
         return VOR_E_FAIL;
     Adopt(*iObject);
-    _ObjectList.Append(Item(iObject));
+    _ObjectList.Append(std::unique_ptr<VORKTRReportingObj>(iObject));
     return VOR_S_OK;
 }
 
@@ -77,12 +76,13 @@ int VORKTRReportingBuffer::InsertObjectAtIndex(VORKTRReportingObj* iObject, int 
     if (!iObject || !_ObjectList.Holds(iIndex))
         return VOR_E_FAIL;
     Adopt(*iObject);
-    _ObjectList.Insert(iIndex, Item(iObject));
+    _ObjectList.Insert(iIndex, std::unique_ptr<VORKTRReportingObj>(iObject));
     return VOR_S_OK;
 }
 
 void VORKTRReportingBuffer::Adopt(VORKTRReportingObj& ioItem)
 {
+    Reallocate();
     ioItem.SetBuffer(this);
     if (_PathSent)
         ioItem.SetBufferData(_Path);
@@ -133,7 +133,7 @@ int VORKTRReportingBuffer::MakeReport(const VORUnicodeString& iDirectory,
         return status;
     ForEachItem(_ObjectList, [this](VORKTRReportingObj& item) { item.SetBufferData(_Path); });
     _PathSent = true;
-    return WriteItems();
+    return FlushAndFinish();
 }
 
 int VORKTRReportingBuffer::Update()
@@ -149,7 +149,7 @@ int VORKTRReportingBuffer::Update()
         DeleteSiteFile("page" + VORUnicodeString(static_cast<VORUnicodeChar>(page), 1) + ".html");
     _PagesNb = 1;
     const int status = BeginReport();
-    return status < 0 ? status : WriteItems();
+    return status < 0 ? status : FlushAndFinish();
 }
 
 void VORKTRReportingBuffer::DeleteSiteFile(const VORUnicodeString& iName) const
@@ -185,12 +185,13 @@ int VORKTRReportingBuffer::BeginSinglePage()
     if (VORMakePath(*_Path, IndexName, path) < 0)
         return VOR_S_OK; // without a page, Flush fails
     const int status = VORFOpen(path, "w", _PageFile);
-    if (status >= 0)
-        WriteFirstPageHead(_PageFile, *_Title, _BackgroundCode);
-    return status;
+    if (status < 0)
+        return status;
+    WriteFirstPageHead(_PageFile, *_Title, _BackgroundCode);
+    return VOR_S_OK;
 }
 
-void VORKTRReportingBuffer::ChooseBackground() const
+void VORKTRReportingBuffer::ChooseBackground()
 {
     const BackgroundSetting setting = ReadBackgroundSetting();
     if (!setting.isStandard && UseBackground(setting.image))
@@ -200,7 +201,7 @@ void VORKTRReportingBuffer::ChooseBackground() const
     UseBackground(image);
 }
 
-bool VORKTRReportingBuffer::UseBackground(const VORUnicodeString& iImage) const
+bool VORKTRReportingBuffer::UseBackground(const VORUnicodeString& iImage)
 {
     VORUnicodeString directory;
     VORUnicodeString name;
@@ -236,10 +237,12 @@ int VORKTRReportingBuffer::FramesExist() const
 {
     int first = 0;
     int second = 0;
-    ForEachItem(_ObjectList, [&](VORKTRReportingObj& item) {
-        first += CountTitles(item, 1);
-        second += CountTitles(item, 2);
-    });
+    for (int i = 0; i < _ObjectList.GetSize() && first < 2 && second < 2; ++i) {
+        if (_ObjectList[i]) {
+            first += CountTitles(*_ObjectList[i], 1);
+            second += CountTitles(*_ObjectList[i], 2);
+        }
+    }
     return first >= 2 || second >= 2 ? 1 : 0;
 }
 
@@ -265,7 +268,7 @@ int VORKTRReportingBuffer::PrepareFrames(VORUnicodeString& directory, const VORU
     return VOR_S_OK;
 }
 
-int VORKTRReportingBuffer::WriteItems()
+int VORKTRReportingBuffer::FlushAndFinish()
 {
     const int status = Flush();
     return status < 0 ? status : FinishReport();
@@ -324,7 +327,7 @@ int VORKTRReportingBuffer::MakeTextReport(const VORUnicodeString& iTitle,
 int VORKTRReportingBuffer::BeginTextReport(const VORUnicodeString& iTitle,
                                            VORUnicodeString& ioText) const
 {
-    if (!(iTitle != ""))
+    if (iTitle == "")
         return VOR_S_OK;
     VORUnicodeString title = iTitle;
     title.ReplaceSubString(LongestBannerTitle, title.GetLengthInChar(), "");

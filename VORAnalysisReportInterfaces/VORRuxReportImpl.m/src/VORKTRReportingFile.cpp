@@ -58,10 +58,33 @@ bool Move(const VORUnicodeString& iSource, const VORUnicodeString& iTarget)
            CopyAndDelete(iSource.ConvertToChar(), iTarget.ConvertToChar());
 }
 
+// The last '.' of the file's own name and what follows it; empty without one.
+VORString ExtensionOf(const char* iPath)
+{
+    VORUnicodeString directory;
+    VORUnicodeString file;
+    VORSplitPath(iPath, directory, file);
+    const VORString name = file.ConvertToChar();
+    const std::size_t dot = name.rfind('.');
+    return dot == VORString::npos ? VORString() : name.substr(dot);
+}
+
+VORString NumberedName(int iNumber, const VORString& iExtension)
+{
+    unsigned long seconds = 0;
+    VORGetCurrentTime(&seconds, nullptr);
+    char name[25];
+    if (VORGetEnv("KTRReportODT"))
+        std::snprintf(name, sizeof name, "file%d", iNumber);
+    else
+        std::snprintf(name, sizeof name, "file%d_%x", iNumber, static_cast<unsigned int>(seconds));
+    return name + iExtension;
+}
+
 } // namespace
 
 VORKTRReportingFile::VORKTRReportingFile(VORKTRReportingFileType type, const char* path)
-    : _Type(type), _FilePath(path)
+    : _Type(type), _FilePath(path ? path : "")
 {
 }
 
@@ -82,34 +105,13 @@ char* VORKTRReportingFile::MoveFile(const char* directory) const
 {
     if (!_Buffer)
         return nullptr;
-    const VORString name = GenerateName();
+    const VORString name =
+        NumberedName(++_Buffer->GetIncludedFilesNumber(), ExtensionOf(_FilePath.c_str()));
     VORUnicodeString target;
     if (VORMakePath(directory, name.c_str(), target) < 0 || !Move(_FilePath.c_str(), target))
         return nullptr;
     char* const result = new char[name.size() + 1];
     result[name.copy(result, name.size())] = '\0';
-    return result;
-}
-
-VORString VORKTRReportingFile::GenerateName() const
-{
-    VORUnicodeString directory;
-    VORUnicodeString file;
-    VORSplitPath(_FilePath.c_str(), directory, file);
-    const std::string_view fileName = BytesOf(file);
-    const std::size_t dot = fileName.rfind('.');
-
-    unsigned long seconds = 0;
-    VORGetCurrentTime(&seconds, nullptr);
-    const int number = ++_Buffer->GetIncludedFilesNumber();
-    char name[25];
-    if (VORGetEnv("KTRReportODT"))
-        std::snprintf(name, sizeof name, "file%d", number);
-    else
-        std::snprintf(name, sizeof name, "file%d_%x", number, static_cast<unsigned int>(seconds));
-    VORString result = name;
-    if (dot != std::string_view::npos)
-        result += fileName.substr(dot);
     return result;
 }
 

@@ -13,9 +13,8 @@ namespace
 constexpr std::size_t BufferSize = 30;
 constexpr const char* BoundedFormat = "%.9g"; // enough digits for every float, in 15 characters
 
-/// The text of a float, made on the stack: with a leading blank when the value is not negative and
-/// a
-/// '.' in any case.
+/// The text of a float, made on the stack: it has a leading blank when the value is not negative,
+/// and a '.' in any case.
 class FloatText
 {
 public:
@@ -105,11 +104,9 @@ void VORKTRReportingFloat::Report_in_List(unsigned int iFile, const char*, unsig
 {
     const FloatText text(_Value, _Format.c_str());
     const std::size_t point = text.Get().find(float_separator());
-    const CellTags integer = RightCell(0);
-    const CellTags separator = CenteredCell(0);
-    WriteFragment(iFile, integer.open, text.Get().substr(0, point), integer.close, separator.open,
-                  text.Get().substr(point, 1), separator.close, OpenLeftTD,
-                  text.Get().substr(point + 1), CloseTD);
+    WriteFragment(iFile, OpenRightTD, text.Get().substr(0, point), CloseTD, CenteredCell(0).open,
+                  text.Get().substr(point, 1), CloseTD, OpenLeftTD, text.Get().substr(point + 1),
+                  CloseTD);
 }
 
 void VORKTRReportingFloat::Report_in_Table(unsigned int iFile, const char*, unsigned char,

@@ -53,9 +53,7 @@ void VORKTRReportingInt::Report_in_List(unsigned int iFile, const char* iPath,
                                         unsigned char iFrames, unsigned int iNavigationFile,
                                         char hasFloats) const
 {
-    WriteFragment(iFile, OpenRightTD);
-    Report(iFile, iPath, iFrames, iNavigationFile);
-    WriteFragment(iFile, CloseTD);
+    VORKTRReportingObj::Report_in_List(iFile, iPath, iFrames, iNavigationFile, 0);
     if (hasFloats)
         WriteFragment(iFile, "<TD COLSPAN=2>&nbsp;", CloseTD);
 }

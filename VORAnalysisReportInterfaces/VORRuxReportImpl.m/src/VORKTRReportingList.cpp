@@ -17,10 +17,11 @@ VORKTRReportingList::VORKTRReportingList(char separator) : _Separator(separator)
 
 VORKTRReportingList::~VORKTRReportingList() = default;
 
-int VORKTRReportingList::AddLine(const VORUnicodeString& iLabel,
-                                 std::unique_ptr<VORKTRReportingObj> ioValue,
-                                 const VORUnicodeString& iUnit)
+int VORKTRReportingList::Store(const VORUnicodeString& iLabel,
+                               std::unique_ptr<VORKTRReportingObj> ioValue,
+                               const VORUnicodeString& iUnit)
 {
+    Reallocate();
     _Lines.Append({iLabel, std::move(ioValue), iUnit});
     return 0;
 }
@@ -28,13 +29,13 @@ int VORKTRReportingList::AddLine(const VORUnicodeString& iLabel,
 int VORKTRReportingList::addLine(const VORUnicodeString& label, const VORUnicodeString& value,
                                  const VORUnicodeString& unit)
 {
-    return AddLine(label, MakeItem<VORKTRReportingText>(value), unit);
+    return Store(label, MakeItem<VORKTRReportingText>(value), unit);
 }
 
 int VORKTRReportingList::addLine(const VORUnicodeString& label, float value,
                                  const VORUnicodeString& unit, const char* format)
 {
-    return AddLine(label, MakeItem<VORKTRReportingFloat>(value, format), unit);
+    return Store(label, MakeItem<VORKTRReportingFloat>(value, format), unit);
 }
 
 int VORKTRReportingList::addLine(const VORUnicodeString& label, double value,
@@ -46,13 +47,13 @@ int VORKTRReportingList::addLine(const VORUnicodeString& label, double value,
 int VORKTRReportingList::addLine(const VORUnicodeString& label, int value,
                                  const VORUnicodeString& unit, const char* format)
 {
-    return AddLine(label, MakeItem<VORKTRReportingInt>(value, format), unit);
+    return Store(label, MakeItem<VORKTRReportingInt>(value, format), unit);
 }
 
 int VORKTRReportingList::addLine(const VORUnicodeString& label, VORKTRReportingObj* value,
                                  const VORUnicodeString& unit)
 {
-    return AddLine(label, std::unique_ptr<VORKTRReportingObj>(value), unit);
+    return Store(label, std::unique_ptr<VORKTRReportingObj>(value), unit);
 }
 
 char VORKTRReportingList::float_separator()

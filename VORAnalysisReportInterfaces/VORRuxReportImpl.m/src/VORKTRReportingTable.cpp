@@ -68,7 +68,7 @@ public:
     {
         if (iItem)
             iItem->ASCIIReport_in_Table(_Text);
-        const std::string_view text = BytesOf(_Text);
+        const std::string_view text = _Text.ConvertToChar();
         _End = text.size() - (!text.empty() && text.back() == '\n' ? 1 : 0);
         _Height = 1 + static_cast<int>(std::count(text.begin(), text.begin() + _End, '\n'));
     }
@@ -119,25 +119,25 @@ VORKTRReportingTable::VORKTRReportingTable(unsigned long style) : _Style(style) 
 
 VORKTRReportingTable::~VORKTRReportingTable() = default;
 
-int VORKTRReportingTable::Place(int iRow, int iColumn, Cell ioItem)
+template <typename ItemClass, typename... Arguments>
+int VORKTRReportingTable::SetNew(int iRow, int iColumn, const Arguments&... iArguments)
 {
+    if (!IsPosition(iRow, iColumn))
+        return VOR_E_FAIL;
     Reallocate(iRow, iColumn);
-    CellAt(iRow, iColumn) = std::move(ioItem);
+    CellAt(iRow, iColumn).reset();
+    CellAt(iRow, iColumn) = MakeItem<ItemClass>(iArguments...);
     return VOR_S_OK;
 }
 
 int VORKTRReportingTable::SetInt(int row, int col, int value, const char* format)
 {
-    if (!IsPosition(row, col))
-        return VOR_E_FAIL;
-    return Place(row, col, MakeItem<VORKTRReportingInt>(value, format));
+    return SetNew<VORKTRReportingInt>(row, col, value, format);
 }
 
 int VORKTRReportingTable::SetFloat(int row, int col, float value, const char* format)
 {
-    if (!IsPosition(row, col))
-        return VOR_E_FAIL;
-    return Place(row, col, MakeItem<VORKTRReportingFloat>(value, format));
+    return SetNew<VORKTRReportingFloat>(row, col, value, format);
 }
 
 int VORKTRReportingTable::SetFloat(int row, int col, double value, const char* format)
@@ -147,27 +147,29 @@ int VORKTRReportingTable::SetFloat(int row, int col, double value, const char* f
 
 int VORKTRReportingTable::SetText(int row, int col, const VORUnicodeString& text)
 {
-    if (!IsPosition(row, col))
-        return VOR_E_FAIL;
-    return Place(row, col, MakeItem<VORKTRReportingText>(text));
+    return SetNew<VORKTRReportingText>(row, col, text);
 }
 
 int VORKTRReportingTable::SetObj(int row, int col, VORKTRReportingObj* item)
 {
     if (!IsPosition(row, col) || !item)
         return VOR_E_FAIL;
-    return Place(row, col, Cell(item));
+    Cell cell(item);
+    Reallocate(row, col);
+    CellAt(row, col) = std::move(cell);
+    return VOR_S_OK;
 }
 
 void VORKTRReportingTable::Reallocate(int row, int col)
 {
+    const int rows = std::max(_RowNb, row + 1);
     const int columns = std::max(_ColumnNb, col + 1);
     if (static_cast<std::size_t>(columns) > _Stride)
         Widen(static_cast<std::size_t>(columns));
+    if (_Cells.size() < Offset(rows, 0))
+        _Cells.resize(Offset(rows, 0));
+    _RowNb = rows; // only now that there is memory for them
     _ColumnNb = columns;
-    _RowNb = std::max(_RowNb, row + 1);
-    if (_Cells.size() < Offset(_RowNb, 0))
-        _Cells.resize(Offset(_RowNb, 0));
 }
 
 // Half as much again at least, so that widening column by column moves each cell a few times only.

@@ -63,7 +63,7 @@ void WriteEscaped(unsigned int iFile, std::string_view iOpen, const VORUnicodeSt
                   std::string_view iClose)
 {
     const std::string_view text = BytesOf(iText);
-    // Most texts fit the stack; of a long one, room that is reserved but not used costs nothing.
+    // Most texts fit the stack; twice the text leaves a long one room to grow without a copy.
     char stack[1024];
     std::pmr::monotonic_buffer_resource memory(stack, sizeof stack);
     std::pmr::string html(&memory);
@@ -133,10 +133,13 @@ void VORKTRReportingText::Report_in_Table(unsigned int iFile, const char*, unsig
 int VORKTRReportingText::GetWidthInChar() const
 {
     AssertField(_AllText.get(), AllTextAssertion, Source, 211);
+    std::string_view rest = BytesOf(*_AllText);
     int width = 0;
-    ForEachLine(BytesOf(*_AllText),
-                [&](std::string_view line) { width = std::max(width, CountChars(line)); });
-    return width;
+    for (auto end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
+        width = std::max(width, CountChars(rest.substr(0, end)));
+        rest.remove_prefix(end + 1);
+    }
+    return std::max(width, CountChars(rest));
 }
 
 void VORKTRReportingText::ASCIIReport(VORUnicodeString& ioText) const

@@ -102,11 +102,11 @@ void VORKTRReportingTitle::Report(unsigned int iFile, const char*, unsigned char
 
     const VORUnicodeString anchor = Decimal(_Buffer->GetIndex());
     const VORUnicodeString order = Decimal(_Order);
+    const VORUnicodeString heading = "<H" + order + ">" + *_Title + "</H" + order + ">";
     if (iFrames)
         WriteFragment(iNavigationFile, "<A HREF=\"", PageName(_Buffer->GetPagesNumber()), "#",
-                      anchor, "\"><NOBR><H", order, ">", *_Title, "</H", order, "></NOBR></A>\n");
-    WriteFragment(file, "\n<A NAME=\"", anchor, "\"><H", order, ">", *_Title, "</H", order,
-                  "></A>\n");
+                      anchor, "\"><NOBR>", heading, "</NOBR></A>\n");
+    WriteFragment(file, "\n<A NAME=\"", anchor, "\">", heading, "</A>\n");
 }
 
 int VORKTRReportingTitle::NewPage(const VORUnicodeString* iTitle, unsigned int& ioFile,
