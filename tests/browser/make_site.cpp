@@ -55,7 +55,7 @@ void AddChapter(VORKTRReportingBuffer& ioReport, const VORUnicodeString& iHeadin
 {
     ioReport.AddObject(new VORKTRReportingTitle(iHeading, 1));
     ioReport.AddObject(
-        new VORKTRReportingText("a < b & c > d\ttab\nsecond line: 20 \u00b0C, \u56f3"));
+        new VORKTRReportingText("a < b &lt; c > d\ttab\nsecond line: 20 \u00b0C, \u56f3"));
     ioReport.AddObject(MakeList());
     ioReport.AddObject(new VORKTRReportingTitle("Details of " + iHeading, 3));
     // Long enough to scroll: a heading at the end is out of sight first.
