@@ -15,34 +15,56 @@ namespace
 {
 
 namespace fs = std::filesystem;
-using ComponentTest = ReportTest;
 
-/// The settings of a user, and the statuses that come with them.
+class ComponentTest : public ReportTest
+{
+protected:
+    /// What the body of a page is told.
+    std::string Background(const std::string& iPage) const
+    {
+        const std::string page = Page(iPage);
+        const std::size_t begin = page.find("\n<BODY ") + 7;
+        return page.substr(begin, page.find(">\n", begin) - begin);
+    }
+};
+
+/// What settings answer, and the statuses that come with it.
+struct Answers {
+    int flagStatus;
+    unsigned char flag;
+    int pathStatus;
+    std::string path;
+};
+
+/// The settings of a user.
 struct Settings : VORIKTRReportingSettingAtt {
-    Settings() { ++Living, ++Made; }
+    Settings() { ++Living; }
     ~Settings() override { --Living; }
     int GetDefaultBackground(unsigned char& oDefault) override
     {
-        return oDefault = Flag, FlagStatus;
+        return oDefault = Given.flag, Given.flagStatus;
     }
     int GetBackgroundPath(VORUnicodeString& oPath) override
     {
-        return oPath = Path.c_str(), PathStatus;
+        return oPath = Given.path.c_str(), Given.pathStatus;
     }
 
-    static inline int FlagStatus, PathStatus, Living, Made;
-    static inline unsigned char Flag;
-    static inline std::string Path;
+    static inline int Living;
+    static inline Answers Given;
 };
 
-VORBaseUnknown* MakeSettings()
-{
-    return new Settings;
-}
+/// Settings that hand out a pointer and refuse it: it is not to be used, as they are gone then.
+struct RefusingSettings : Settings {
+    VORStatus QueryInterface(const GUID&, void** oInterface) override
+    {
+        return *oInterface = this, VOR_E_FAIL;
+    }
+};
 
-VORBaseUnknown* MakeStranger()
+template <typename Component>
+VORBaseUnknown* New()
 {
-    return new VORBaseUnknown;
+    return new Component;
 }
 
 TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
@@ -60,60 +82,50 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     // In this order: the background copied last stays that of first pages.
     const struct {
         VORComponentFactory settings;
+        Answers given;
         bool hasStandard;
-        int flagStatus;
-        unsigned char flag;
-        int pathStatus;
-        std::string path, first, next, copied;
+        std::string first, next, copied;
     } cases[] = {
-        {nullptr, false, 0, 0, 0, "", colour, colour, ""},
-        {MakeStranger, false, 0, 0, 0, "", colour, colour, ""},
-        {MakeSettings, false, 0, 1, 0, paper, colour, colour, ""},
-        {MakeSettings, false, VOR_E_FAIL, 0, 0, paper, colour, colour, ""},
-        {MakeSettings, false, 0, 0, VOR_E_FAIL, paper, colour, colour, ""},
-        {MakeSettings, false, 0, 0, 0, "paper.png", colour, colour, ""},
-        {MakeSettings, false, 0, 0, 0, images + "/", colour, colour, ""},
-        {MakeSettings, false, 0, 0, 0, missing, colour, named, ""},
-        {MakeSettings, true, 0, 0, 0, paper, user, user, "paper.png"},
-        {MakeSettings, false, 0, 0, 0, missing, user, named, ""},
-        {MakeSettings, true, 0, 0, 0, missing, standard, named, "Corp.gif"},
-        {MakeSettings, true, 0, 0, VOR_E_FAIL, paper, standard, colour, "Corp.gif"},
-        {MakeSettings, true, VOR_E_FAIL, 0, 0, paper, standard, standard, "Corp.gif"},
-        {MakeStranger, true, 0, 0, 0, "", standard, standard, "Corp.gif"},
-        {nullptr, true, 0, 0, 0, "", standard, standard, "Corp.gif"},
-        {nullptr, false, 0, 0, 0, "", standard, colour, ""},
+        {nullptr, {}, false, colour, colour, ""},
+        {New<VORBaseUnknown>, {}, false, colour, colour, ""},
+        {New<RefusingSettings>, {0, 0, 0, paper}, false, colour, colour, ""},
+        {New<Settings>, {0, 1, 0, paper}, false, colour, colour, ""},
+        {New<Settings>, {VOR_E_FAIL, 0, 0, paper}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, VOR_E_FAIL, paper}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, "paper.png"}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, images + "/"}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, missing}, false, colour, named, ""},
+        {New<Settings>, {0, 0, 0, paper}, true, user, user, "paper.png"},
+        {New<Settings>, {0, 0, 0, missing}, false, user, named, ""},
+        {New<Settings>, {0, 0, 0, missing}, true, standard, named, "Corp.gif"},
+        {New<Settings>, {0, 0, VOR_E_FAIL, paper}, true, standard, colour, "Corp.gif"},
+        {New<Settings>, {VOR_E_FAIL, 0, 0, paper}, true, standard, standard, "Corp.gif"},
+        {New<VORBaseUnknown>, {}, true, standard, standard, "Corp.gif"},
+        {nullptr, {}, true, standard, standard, "Corp.gif"},
+        {nullptr, {}, false, standard, colour, ""},
     };
     Add({Title("A", 2), Title("B", 2)});
     for (const auto& one : cases) {
         SCOPED_TRACE("case " + std::to_string(&one - cases));
         VORRegisterComponent("VORKTRReportingSettingCtrl", one.settings);
         ::setenv("VORGraphicPath", one.hasStandard ? (site + "::" + images).c_str() : "", 1);
-        Settings::FlagStatus = one.flagStatus;
-        Settings::Flag = one.flag;
-        Settings::PathStatus = one.pathStatus;
-        Settings::Path = one.path;
+        Settings::Given = one.given;
         fs::remove_all(site);
         report.GetPagesNumber() = 1;
         ASSERT_EQ(Make(), 0);
         EXPECT_EQ(Settings::Living, 0);
-        for (const auto& [name, tag] :
-             {std::pair{"navigation.html", one.first + " ALINK=\"#0000FF\""},
-              {"page1.html", one.first},
-              {"page2.html", one.next},
-              {"page3.html", one.next}})
-            EXPECT_NE(Page(name).find("\n<BODY " + tag + ">\n"), std::string::npos) << name;
+        EXPECT_EQ(Background("navigation.html"), one.first + " ALINK=\"#0000FF\"");
+        EXPECT_EQ(Background("page1.html"), one.first);
+        EXPECT_EQ(Background("page3.html"), one.next);
         for (const std::string image : {"Corp.gif", "paper.png"})
             EXPECT_EQ(fs::exists(site + "/" + image), image == one.copied) << image;
     }
-    EXPECT_GT(Settings::Made, 0);
-    VORRegisterComponent("VORKTRReportingSettingCtrl", nullptr);
-
     WriteFile(site + "/Corp.gif", "an older and longer one");
     ::setenv("VORGraphicPath", images.c_str(), 1);
     EXPECT_EQ(report.RemoveObject(1), 0);
     EXPECT_EQ(report.Update(), 0);
     EXPECT_EQ(Page("Corp.gif"), "standard");
-    EXPECT_NE(Page("index.html").find("\n<BODY " + standard + ">\n"), std::string::npos);
+    EXPECT_EQ(Background("index.html"), standard);
 }
 
 template <typename Interface>
@@ -122,9 +134,8 @@ void ExpectInterface(const char* iName, const GUID& iExported, const GUID& iId)
     VORMetaClass* const entered = VORFindInDictionary(iId);
     ASSERT_NE(entered, nullptr) << iName;
     EXPECT_EQ(Interface::MetaObject(), entered);
-    EXPECT_TRUE(iExported == iId && Interface::ClassId() == iId && entered->GetId() == iId);
+    EXPECT_TRUE(iExported == iId && Interface::ClassId() == iId);
     EXPECT_STREQ(Interface::ClassName(), iName);
-    EXPECT_STREQ(entered->GetName(), iName);
     EXPECT_STREQ(entered->GetFWname(), "VORAnalysisReportInterfaces");
     EXPECT_EQ(entered->GetBase(), VORBaseUnknown::MetaObject());
     EXPECT_EQ(entered->GetKind(), 8);
@@ -143,20 +154,13 @@ TEST_F(ComponentTest, InterfacesAreInTheDictionaryFromTheStart)
         {0x5C3B22E5, 0x0845, 0x4AAD, {0xAB, 0x6E, 0xA9, 0x25, 0x0F, 0x6F, 0x7E, 0xE5}});
 }
 
-TEST_F(ComponentTest, AHandleHoldsOneReferenceOnItsInterface)
+TEST_F(ComponentTest, AHandleTakesItsInterfaceAlone)
 {
-    VORIKTRReporting* const component = new VORIKTRReporting;
-    VORBaseUnknown* const stranger = MakeStranger();
-    {
-        VORIKTRReporting_var handle;
-        EXPECT_EQ(handle.__CastTo(component), component);
-        EXPECT_EQ(component->AddRef(), 3u);
-        EXPECT_EQ(component->Release(), 2u);
-        EXPECT_EQ(handle.__CastTo(stranger), nullptr);
-        EXPECT_EQ(handle.__CastTo(component), component);
-    }
-    EXPECT_EQ(stranger->Release(), 0u);
-    EXPECT_EQ(component->Release(), 0u);
+    VORIKTRReporting component;
+    VORBaseUnknown stranger;
+    EXPECT_EQ(VORIKTRReporting_var().__CastTo(&component), &component);
+    EXPECT_EQ(VORIKTRReporting_var().__CastTo(&stranger), nullptr);
+    EXPECT_EQ(component.AddRef(), 2u); // handles have let go
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include <clocale>
 #include <cmath>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -8,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "ReportTest.h"
-#include "VORFatalError.h"
 #include "VORKTRReportingFloat.h"
 #include "VORStatus.h"
 #include "support/Rendering.h"
@@ -19,11 +17,6 @@ namespace
 using ItemsTest = ReportTest;
 using Counts = std::pair<int, int>;
 
-Counts RemovedAndDestroyed()
-{
-    return {Probe::Removed, Probe::Destroyed};
-}
-
 TEST_F(ItemsTest, KeepTheirPositionsInAReport)
 {
     Probe stranger;
@@ -33,18 +26,15 @@ TEST_F(ItemsTest, KeepTheirPositionsInAReport)
     std::vector<Probe*> items;
     for (const int capacity : {5, 5, 5, 5, 5, 10, 10, 10, 10, 10}) {
         items.push_back(new Probe(-7));
-        EXPECT_EQ(report.AddObject(items.back()), 0);
+        Add({items.back()});
         EXPECT_EQ(report.GetAllocatedNumber(), capacity);
     }
-    const int refusals[] = {report.AddObject(nullptr),
-                            report.InsertObjectAtIndex(nullptr, 2),
-                            report.InsertObjectAtIndex(&stranger, -1),
-                            report.InsertObjectAtIndex(&stranger, 10),
-                            report.RemoveObject(-1),
-                            report.RemoveObject(10),
-                            report.RemoveObject(nullptr),
-                            report.RemoveObject(&stranger),
-                            report.GetObjectIndex(&stranger, index)};
+    const int refusals[] = {
+        report.AddObject(nullptr),      report.InsertObjectAtIndex(nullptr, 2),
+        report.RemoveObject(nullptr),   report.InsertObjectAtIndex(&stranger, -1),
+        report.RemoveObject(&stranger), report.InsertObjectAtIndex(&stranger, 10),
+        report.RemoveObject(-1),        report.GetObjectIndex(&stranger, index),
+        report.RemoveObject(10)};
     for (const int& status : refusals)
         EXPECT_EQ(status, VOR_E_FAIL) << "refusal " << &status - refusals;
     EXPECT_EQ(index, 99);
@@ -53,12 +43,11 @@ TEST_F(ItemsTest, KeepTheirPositionsInAReport)
     EXPECT_EQ(report.RemoveObject(1), -7);
     EXPECT_EQ(report.RemoveObject(1), VOR_E_FAIL);
     EXPECT_EQ(report.RemoveObject(items[4]), -7);
-    EXPECT_EQ(RemovedAndDestroyed(), Counts(2, 2));
+    EXPECT_EQ(Counts(Probe::Removed, Probe::Destroyed), Counts(2, 2));
     auto* const inserted = new Probe;
     EXPECT_EQ(report.InsertObjectAtIndex(inserted, 1), 0);
     EXPECT_EQ(inserted->GetBuffer(), &report);
-    EXPECT_EQ(report.GetObjectNumber(), 11);
-    EXPECT_EQ(report.GetAllocatedNumber(), 15);
+    EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(11, 15));
     const std::pair<Probe*, int> places[] = {{items[0], 0}, {inserted, 1}, {nullptr, 2},
                                              {items[2], 3}, {items[3], 4}, {items[9], 10}};
     for (const auto& [item, place] : places) {
@@ -86,9 +75,7 @@ TEST_F(ItemsTest, ABagStandsForItsChildren)
     Add({added});
     EXPECT_EQ(report.InsertObjectAtIndex(inserted, 0), 0);
     EXPECT_EQ(late->GetBuffer(), &report);
-    EXPECT_EQ(late->directory, "");
-    EXPECT_EQ(added->directory, site);
-    EXPECT_EQ(inserted->directory, site);
+    EXPECT_EQ(late->directory + added->directory + inserted->directory, site + site);
     ASSERT_EQ(Make(), 0);
     EXPECT_EQ(late->directory, site);
 
@@ -99,25 +86,9 @@ TEST_F(ItemsTest, ABagStandsForItsChildren)
     EXPECT_EQ(report.RemoveObject(1), 4);
     EXPECT_EQ(report.RemoveObject(2), -5);
     EXPECT_EQ(report.RemoveObject(3), 0);
-    EXPECT_EQ(RemovedAndDestroyed(), Counts(8, 8));
-    {
-        VORKTRReportingBuffer owner;
-        owner.AddObject(Bag({new Probe, Bag({new Probe})}));
-    }
-    EXPECT_EQ(RemovedAndDestroyed(), Counts(8, 10));
-}
-
-TEST_F(ItemsTest, BaseCellsWrapTheItem)
-{
-    const Probe probe;
-    EXPECT_EQ(Written([&](unsigned int iFile) {
-                  probe.Report_in_List(iFile, "site", 0, 0, 0);
-                  probe.Report_in_List(iFile, "site", 0, 0, 1);
-                  probe.Report_in_Table(iFile, "site", 0, 0, 0);
-                  probe.Report_in_Table(iFile, "site", 0, 0, 4);
-              }),
-              "<TD ALIGN=RIGHT>[site 0]</TD>\n<TD ALIGN=RIGHT COLSPAN=3>[site 0]</TD>\n"
-              "<TD ALIGN=CENTER>[site 0]</TD>\n<TH ALIGN=CENTER>[site 0]</TH>\n");
+    EXPECT_EQ(Counts(Probe::Removed, Probe::Destroyed), Counts(8, 8));
+    VORKTRReportingBuffer().AddObject(Bag({new Probe, Bag({new Probe})}));
+    EXPECT_EQ(Counts(Probe::Removed, Probe::Destroyed), Counts(8, 10));
 }
 
 TEST_F(ItemsTest, NewPageSaysWhyThereIsNone)
@@ -143,24 +114,12 @@ TEST_F(ItemsTest, NewPageSaysWhyThereIsNone)
 
 TEST_F(ItemsTest, ATitleWithoutReportIsFatal)
 {
-    VORSetFatalErrorHandler([](const char* iKey, const char* iPath, int iLine) {
-        throw std::string(iKey) + " " + iPath + " " + std::to_string(iLine);
-    });
-    const auto errorOf = [](auto iAction) -> std::string {
-        try {
-            iAction();
-        } catch (const std::string& error) {
-            return error;
-        }
-        return "none";
-    };
-    const std::string error = "AssertionFailed:_Buffer VORAnalysisReportInterfaces/"
-                              "VORRuxReportImpl.m/src/VORKTRReportingTitle ";
-    const std::unique_ptr<VORKTRReportingTitle> title(Title("A", 1));
+    const std::string error = "AssertionFailed:_Buffer.*VORAnalysisReportInterfaces/"
+                              "VORRuxReportImpl.m/src/VORKTRReportingTitle.*";
+    const VORKTRReportingTitle title("A", 1);
     unsigned int file = 0;
-    EXPECT_EQ(errorOf([&] { title->Report(0, "", 0, 0); }), error + "77");
-    EXPECT_EQ(errorOf([&] { title->NewPage(nullptr, file, ""); }), error + "129");
-    VORSetFatalErrorHandler(nullptr);
+    EXPECT_DEATH(title.Report(0, "", 0, 0), error + "77");
+    EXPECT_DEATH(title.NewPage(nullptr, file, ""), error + "129");
 }
 
 TEST_F(ItemsTest, FloatsAlwaysHoldAPointAndKeepTheirBound)
@@ -187,18 +146,6 @@ TEST_F(ItemsTest, FloatsAlwaysHoldAPointAndKeepTheirBound)
     ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8")) << "this locale must be installed";
     for (const auto& one : cases)
         EXPECT_EQ(HtmlOf(VORKTRReportingFloat(one.value, one.format)), one.text) << one.format;
-}
-
-TEST_F(ItemsTest, ReplacementsAreNotSearchedAgain)
-{
-    const char* const cases[][4] = {{"aa", "a", "aa", "aaaa"},          {"aaa", "aa", "b", "ba"},
-                                    {"abab", "ab", "b", "bb"},          {"€é€", "€", "", "é"},
-                                    {"éaé€a", "a", "&a;", "é&a;é€&a;"}, {"abc", "", "y", "abc"}};
-    for (const auto& [before, what, by, after] : cases) {
-        VORUnicodeString text(before);
-        VORKTRReportingText::ReplaceAllOccurrences(text, what, by);
-        EXPECT_STREQ(text.ConvertToChar(), after);
-    }
 }
 
 } // namespace

@@ -3,14 +3,15 @@
 #include <new>
 #include <string>
 #include <tuple>
+#include <utility>
 
 #include <gtest/gtest.h>
 
+#include "ReportTest.h"
 #include "VORKTRReportingFloat.h"
 #include "VORKTRReportingInt.h"
 #include "VORKTRReportingList.h"
 #include "VORKTRReportingTable.h"
-#include "VORKTRReportingText.h"
 #include "support/Rendering.h"
 
 namespace
@@ -19,26 +20,15 @@ namespace
 constexpr std::size_t None = ~std::size_t{0};
 std::size_t FailingSize = None; // the next allocation of this size fails
 
-void* Allocate(std::size_t iSize) noexcept
-{
-    if (iSize != FailingSize)
-        return std::malloc(iSize);
-    FailingSize = None;
-    return nullptr;
-}
-
 } // namespace
 
 void* operator new(std::size_t iSize)
 {
-    if (void* const memory = Allocate(iSize))
+    void* const memory = iSize == FailingSize ? nullptr : std::malloc(iSize);
+    if (memory)
         return memory;
+    FailingSize = None;
     throw std::bad_alloc();
-}
-
-void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept
-{
-    return Allocate(iSize);
 }
 
 void operator delete(void* ioMemory) noexcept
@@ -87,6 +77,26 @@ TEST(List, AlignsItsColumns)
     EXPECT_EQ(empty.GetWidthInChar(), 3);
 }
 
+TEST(List, TakesLinesOfAnyItem)
+{
+    {
+        VORKTRReportingList list('=');
+        list.addLine("σ", Bag({Text("p"), new Probe, Text("qr")}), "mm");
+        auto* const table = new VORKTRReportingTable(0x08);
+        table->SetText(0, 0, "x");
+        list.addLine("Table", table, "");
+        list.addLine("None", nullptr, "kN");
+        EXPECT_EQ(TextOf(list) + HtmlOf(list), Expected("list_of_items.txt"));
+        EXPECT_EQ(Probe::Destroyed, 0);
+    }
+    EXPECT_EQ(Probe::Destroyed, 1);
+    VORKTRReportingList list('=');
+    for (const int capacity : {5, 5, 5, 5, 5, 10, 10, 10, 10, 10, 15}) {
+        EXPECT_EQ(list.addLine("", 1, "", "%d"), 0);
+        EXPECT_EQ(list.GetAllocatedNumber(), capacity);
+    }
+}
+
 TEST(List, LineWithoutMemoryForItsValueHasNone)
 {
     VORKTRReportingList list('=');
@@ -98,9 +108,6 @@ TEST(List, LineWithoutMemoryForItsValueHasNone)
     list.addLine("A", 5, "", "%d");
     EXPECT_EQ(TextOf(list), "  Bc = \n       \n  D  = \n  A  = 5 \n"); // the unit counts
     EXPECT_EQ(list.GetWidthInChar(), 9);
-    EXPECT_EQ(HtmlOf(list), "<P>\n<TABLE BORDER=0>\n<TR>\n<TD ALIGN=LEFT>A</TD>\n"
-                            "<TD ALIGN=CENTER>=</TD>\n<TD ALIGN=RIGHT>5</TD>\n"
-                            "<TD ALIGN=LEFT>&nbsp;</TD>\n</TR>\n</TABLE>\n</P>\n\n");
 }
 
 TEST(Table, CellWithoutMemoryForItsItemIsEmpty)
@@ -111,6 +118,21 @@ TEST(Table, CellWithoutMemoryForItsItemIsEmpty)
         [&] { return table.SetFloat(0, 0, 1.5f, "%g"); });
     ExpectSuccessWithoutMemoryFor<VORKTRReportingText>([&] { return table.SetText(0, 1, "t"); });
     EXPECT_EQ(CellTextOf(table), "***\n***\n***\n");
+}
+
+TEST(Table, GridWithoutMemoryKeepsItsSize)
+{
+    VORKTRReportingTable table(0x08);
+    table.SetText(0, 0, "a");
+    for (const auto& [row, column] : {std::pair(0, 99), std::pair(99, 0)}) {
+        FailingSize = 100 * sizeof(VORKTRReportingObj*);
+        EXPECT_THROW(table.SetObj(row, column, new Probe), std::bad_alloc);
+        EXPECT_EQ(std::pair(table.GetRowNumber(), table.GetColumnNumber()), std::pair(1, 1));
+        EXPECT_EQ(CellTextOf(table), "***\n*a*\n***\n");
+    }
+    EXPECT_EQ(Probe::Destroyed, 2);
+    table.SetText(1, 1, "b");
+    EXPECT_EQ(CellTextOf(table), "*****\n*a* *\n* *b*\n*****\n");
 }
 
 } // namespace

@@ -48,13 +48,11 @@ TEST(Table, OwnsWhatItTakes)
     {
         Table table(0);
         Probe refused;
-        EXPECT_EQ(table.SetObj(-1, 0, &refused), Failure);
-        EXPECT_EQ(table.SetObj(0, -1, &refused), Failure);
-        EXPECT_EQ(table.SetObj(0, 0, nullptr), Failure);
-        EXPECT_EQ(table.SetInt(-1, 0, 1, "%d"), Failure);
-        EXPECT_EQ(table.SetFloat(0, -1, 1.f, "%g"), Failure);
-        EXPECT_EQ(table.SetFloat(-1, 0, 1., "%g"), Failure);
-        EXPECT_EQ(table.SetText(0, -1, "x"), Failure);
+        for (const int status : {table.SetObj(-1, 0, &refused), table.SetObj(0, -1, &refused),
+                                 table.SetObj(0, 0, nullptr), table.SetInt(-1, 0, 1, "%d"),
+                                 table.SetFloat(0, -1, 1.f, "%g"), table.SetFloat(-1, 0, 1., "%g"),
+                                 table.SetText(0, -1, "x")})
+            EXPECT_EQ(status, Failure);
         EXPECT_EQ(table.GetRowNumber() + table.GetColumnNumber(), 0);
         EXPECT_EQ(table.SetObj(0, 0, new Probe), 0);
         EXPECT_EQ(table.SetObj(2, 3, new Probe), 0);
@@ -65,52 +63,30 @@ TEST(Table, OwnsWhatItTakes)
     EXPECT_EQ(Probe::Destroyed, 3);
 }
 
-/// A cell that shows the style byte it is given.
-class StyleProbe : public Probe
-{
-public:
+/// A cell of one letter; its page shows the style byte that it is given.
+struct StyleProbe : Probe {
+    explicit StyleProbe(char iLetter) : Probe(0, 1), letter(1, iLetter) {}
+    void ASCIIReport(VORUnicodeString& ioText) const override { ioText.Append(letter.c_str()); }
     void Report_in_Table(unsigned int iFile, const char*, unsigned char, unsigned int,
                          char iHeader) const override
     {
-        const std::string mark = std::to_string(int{iHeader}) + "\n";
+        const std::string mark = " " + std::to_string(int{iHeader});
         VORFWrite(iFile, mark.data(), mark.size(), nullptr);
     }
+
+    std::string letter;
 };
 
-TEST(Table, CellsAreToldTheStyleOfTheirRowAndColumn)
-{
-    // The bits of the style that each of two columns takes in one to three rows.
-    const std::vector<std::vector<int>> tables[] = {
-        {{7, 3}}, {{5, 1}, {6, 2}}, {{5, 1}, {4, 0}, {6, 2}}};
-    for (int style = 0; style < 32; ++style) {
-        const bool isCentered = style < 16;
-        const std::string border = style % 16 < 8 ? "0" : "2";
-        for (const auto& rows : tables) {
-            Table table(static_cast<unsigned long>(style));
-            std::string html = isCentered ? "<BR>\n<CENTER>\n" : "<P>\n\n";
-            html += "<TABLE BORDER=" + border + " CELLPADDING=5>\n";
-            for (const std::vector<int>& bits : rows) {
-                const int row = table.GetRowNumber();
-                EXPECT_EQ(table.SetObj(row, 0, new StyleProbe), 0);
-                EXPECT_EQ(table.SetObj(row, 1, new StyleProbe), 0);
-                html += "<TR>\n" + std::to_string(style & bits[0]) + "\n" +
-                        std::to_string(style & bits[1]) + "\n</TR>\n";
-            }
-            EXPECT_EQ(HtmlOf(table), html + "</TABLE>\n" + (isCentered ? "</CENTER>\n" : "</P>\n"));
-        }
-    }
-}
-
-TEST(Table, StylesDrawRulesAndSeparators)
+TEST(Table, StylesDrawRulesSeparatorsAndHeaders)
 {
     std::string text;
     for (int rows = 1; rows <= 3; ++rows) {
-        for (const unsigned long style : {0x00ul, 0x01ul, 0x02ul, 0x03ul, 0x04ul, 0x08ul, 0x15ul}) {
+        for (const unsigned long style : {0x00ul, 0x01ul, 0x02ul, 0x03ul, 0x04ul, 0x08ul, 0x1Ful}) {
             Table table(style);
             for (int cell = 0; cell < 3 * rows; ++cell)
-                table.SetText(cell / 3, cell % 3, std::string(1, "abcdefghi"[cell]).c_str());
+                table.SetObj(cell / 3, cell % 3, new StyleProbe("abcdefghi"[cell]));
             text += std::to_string(rows) + " rows, style " + std::to_string(style) + "\n" +
-                    CellTextOf(table);
+                    CellTextOf(table) + HtmlOf(table);
         }
     }
     EXPECT_EQ(text, Expected("table_styles.txt"));
@@ -118,63 +94,36 @@ TEST(Table, StylesDrawRulesAndSeparators)
 
 TEST(Table, PadsItsCellsAndCentresItselfWhileItFits)
 {
-    const auto nested = CellTextOf;
-    const auto onPage = TextOf;
-    // Width without and with padding, indent, blanks on both sides of each cell.
     const struct {
-        std::string (*draw)(const VORKTRReportingObj&);
         unsigned long style;
-        int columns, bare, width, indent, left, right;
-    } cases[] = {
-        {onPage, 0x08, 1, 5, 7, 36, 1, 1},  {onPage, 0x08, 1, 75, 77, 1, 1, 1},
-        {onPage, 0x08, 1, 76, 78, 1, 1, 1}, {onPage, 0x08, 1, 77, 79, 0, 1, 1},
-        {onPage, 0x08, 1, 78, 79, 0, 0, 1}, {onPage, 0x08, 1, 79, 79, 0, 0, 0},
-        {onPage, 0x08, 1, 80, 80, 0, 0, 0}, {onPage, 0x08, 1, 81, 81, 0, 0, 0},
-        {onPage, 0x08, 2, 75, 79, 0, 1, 1}, {onPage, 0x08, 2, 76, 78, 1, 0, 1},
-        {onPage, 0x08, 2, 77, 79, 0, 0, 1}, {onPage, 0x08, 2, 78, 78, 1, 0, 0},
-        {onPage, 0x08, 3, 77, 77, 1, 0, 0}, {onPage, 0x18, 1, 5, 7, 2, 1, 1},
-        {onPage, 0x18, 1, 75, 77, 2, 1, 1}, {onPage, 0x18, 1, 76, 78, 1, 1, 1},
-        {onPage, 0x18, 1, 77, 79, 0, 1, 1}, {onPage, 0x18, 1, 81, 81, 0, 0, 0},
-        {nested, 0x08, 1, 5, 5, 0, 0, 0},   {nested, 0x08, 2, 76, 76, 0, 0, 0},
-        {nested, 0x18, 1, 77, 77, 2, 0, 0}, {nested, 0x18, 1, 78, 78, 1, 0, 0},
-        {nested, 0x18, 1, 79, 79, 0, 0, 0},
-    };
-    for (const auto& [draw, style, columns, bare, width, indent, left, right] : cases) {
-        Table table(style);
-        const std::string rule = Repeat(indent, " ") + Repeat(width, "*") + "\n";
-        std::string row = Repeat(indent, " ") + "*";
-        for (int column = 0; column < columns; ++column) {
-            const std::string cell = Repeat(column == 0 ? bare - 2 * columns : 1, "²");
-            table.SetText(0, column, cell.c_str());
-            row += Repeat(left, " ") + cell + Repeat(right, " ") + "*";
+        int columns;
+        std::vector<int> widths;
+    } cases[] = {{0x08, 1, {5, 76, 77, 78, 79, 80, 81}},
+                 {0x08, 2, {75, 76, 77, 78}},
+                 {0x18, 1, {75, 76, 77, 78, 81}}};
+    std::string text;
+    for (const auto& one : cases) {
+        for (const int width : one.widths) {
+            Table table(one.style);
+            table.SetText(0, 0, Repeat(width - 2 * one.columns, "²").c_str());
+            if (one.columns == 2)
+                table.SetText(0, 1, "b");
+            EXPECT_EQ(table.GetWidthInChar(), width);
+            text += TextOf(table) + CellTextOf(table);
         }
-        EXPECT_EQ(table.GetWidthInChar(), bare);
-        EXPECT_EQ(draw(table), rule + row + "\n" + rule) << columns << " columns, " << bare;
     }
+    EXPECT_EQ(text, Expected("table_places.txt"));
 }
 
 TEST(Table, CentresLinesInTheirCells)
 {
-    EXPECT_EQ(CellTextOf(*TableOf(0x08, {{"a\nb\nc\nd", "x", "p\nq\n", "", "y\n\nz", "r\n\n"}})),
-              "************\n"
-              "*a* * **y* *\n"
-              "*b*x*p** *r*\n"
-              "*c* *q**z* *\n"
-              "*d* * ** * *\n"
-              "************\n");
-    EXPECT_EQ(CellTextOf(*TableOf(0x08, {{"wide5"}, {"ab"}, {"abcd"}, {"mm²"}, {"σ α\nµ"}})),
-              "*******\n"
-              "*wide5*\n"
-              "*  ab *\n"
-              "* abcd*\n"
-              "* mm² *\n"
-              "* σ α *\n"
-              "*  µ  *\n"
-              "*******\n");
     Table outer(0x08); // its cell prints wider than it says
     outer.SetObj(0, 0, TableOf(0x10, {{"x"}}).release());
     outer.SetText(0, 1, "y");
-    EXPECT_EQ(CellTextOf(outer), "*******\n*   x *y*\n*******\n");
+    EXPECT_EQ(CellTextOf(*TableOf(0x08, {{"a\nb\nc\nd", "x", "p\nq\n", "", "y\n\nz", "r\n\n\n"}})) +
+                  CellTextOf(*TableOf(0x08, {{"wide5"}, {"ab"}, {"abcd"}, {"mm²"}, {"σ αβ\nµ"}})) +
+                  CellTextOf(outer),
+              Expected("table_lines.txt"));
 }
 
 TEST(Table, CellsHoldItemsOfEveryKind)
@@ -185,20 +134,17 @@ TEST(Table, CellsHoldItemsOfEveryKind)
     auto* const list = new VORKTRReportingList('=');
     list->addLine("F", 1, "kN", "%d");
     list->addLine("No", 20, "", "%d");
-    auto* const bag = Bag({Text("p\n"), Text("qr")});
     Table table(0x08);
     table.SetObj(0, 0, title);
     table.SetObj(0, 1, list);
     table.SetObj(1, 0, TableOf(0x08, {{"a", "b"}}).release());
-    table.SetObj(1, 1, bag);
+    table.SetObj(1, 1, Bag({Text("p\n"), Text("qr")}));
     table.SetObj(2, 1, new VORKTRReportingFile(VORKTRReportingImage, "pic.png"));
     EXPECT_EQ(TextOf(table), Expected("table_of_items.txt"));
     EXPECT_EQ(HtmlOf(table), Expected("table_of_items.html"));
     const std::unique_ptr<int[]> widths(table.GetColsWidth());
     EXPECT_EQ(std::vector<int>(widths.get(), widths.get() + 2), std::vector<int>({5, 10}));
     EXPECT_EQ(table.GetWidthInChar(), 18);
-    EXPECT_EQ(Written([&](unsigned int iFile) { bag->Report_in_List(iFile, "", 0, 0, 1); }),
-              "<TD ALIGN=RIGHT COLSPAN=3><p>p<BR>\n</p>\n<p>qr</p>\n</TD>\n");
 }
 
 TEST(Table, NestsFiftyDeep)

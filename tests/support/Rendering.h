@@ -1,8 +1,9 @@
 #ifndef Rendering_h
 #define Rendering_h
 
-#include <stdexcept>
 #include <string>
+
+#include <gtest/gtest.h>
 
 #include "VORFile.h"
 #include "VORKTRReportingObj.h"
@@ -47,8 +48,7 @@ std::string Written(Write iWrite)
     const TemporaryDirectory directory;
     const std::string path = directory.Path("page.html");
     unsigned int file = 0;
-    if (VORFOpen(path.c_str(), "w", file) < 0)
-        throw std::runtime_error("cannot be opened: " + path);
+    EXPECT_EQ(VORFOpen(path.c_str(), "w", file), 0);
     iWrite(file);
     VORFClose(file);
     return ReadFile(path);
