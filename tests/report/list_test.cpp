@@ -124,9 +124,11 @@ TEST(Table, GridWithoutMemoryKeepsItsSize)
 {
     VORKTRReportingTable table(0x08);
     table.SetText(0, 0, "a");
-    for (const auto& [row, column] : {std::pair(0, 99), std::pair(99, 0)}) {
+    for (const auto& [row, column] : {std::pair(0, 99), std::pair(49, 1)}) { // 100 cells
         FailingSize = 100 * sizeof(VORKTRReportingObj*);
         EXPECT_THROW(table.SetObj(row, column, new Probe), std::bad_alloc);
+        FailingSize = 100 * sizeof(VORKTRReportingObj*);
+        EXPECT_THROW(table.SetText(row, column, "b"), std::bad_alloc);
         EXPECT_EQ(std::pair(table.GetRowNumber(), table.GetColumnNumber()), std::pair(1, 1));
         EXPECT_EQ(CellTextOf(table), "***\n*a*\n***\n");
     }

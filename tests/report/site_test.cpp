@@ -180,6 +180,19 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
     EXPECT_EQ(Make(), VOR_E_FILE_NOT_FOUND);
 }
 
+TEST_F(SiteTest, ARunClosesThePagesThatAFailedOneLeftOpen)
+{
+    Add({Title("One", 1), Title("Two", 1)});
+    fs::create_directories(site + "/page1.html");
+    EXPECT_EQ(Make(), VOR_E_FAIL);
+    fs::remove(site + "/page1.html");
+    EXPECT_EQ(Make(), 0);
+    unsigned int files[3]; // in a process of its own the lowest numbers are free again
+    for (unsigned int& file : files)
+        ASSERT_EQ(VORFOpen("/dev/null", "w", file), 0);
+    EXPECT_EQ(files[0] + files[1] + files[2], 1u + 2u + 3u);
+}
+
 TEST_F(SiteTest, FailuresOfPagesCostOnlyTheirItems)
 {
     fs::create_directories(site + "/page2.html");
