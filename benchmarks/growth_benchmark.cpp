@@ -120,7 +120,7 @@ std::size_t HeapInUse()
     return info.uordblks + info.hblkhd;
 }
 
-void HeapOfCells(benchmark::State& state)
+void HeapBytesPerCell(benchmark::State& state)
 {
     const int rows = static_cast<int>(state.range(0));
     const int columns = static_cast<int>(state.range(1));
@@ -144,4 +144,4 @@ BENCHMARK(AddLines)->Arg(1000)->Arg(100000);
 BENCHMARK(Append)->Arg(10000)->Arg(Million);
 BENCHMARK(ReplaceAllOccurrences)->Arg(100000)->Arg(10000000);
 BENCHMARK(NestTables)->Arg(25)->Arg(50);
-BENCHMARK(HeapOfCells)->Args({100000, 10})->Args({Million, 1});
+BENCHMARK(HeapBytesPerCell)->Args({100000, 10})->Args({Million, 1});

@@ -10,76 +10,42 @@
 namespace
 {
 
-constexpr double NoLimit = 0;
+using Names = std::vector<const char*>;
 
 /// What matters is not a time, which depends on the machine, but how it compares with another one
 /// of the same run.
 struct Ratio {
-    const char* title;
-    std::vector<const char*> measured; // the times of these are added up
-    std::vector<const char*> against;
-    double limit; // what --check allows: wider than the goal, for machines under load
+    Names measured; // the times of these are added up
+    Names against;
+    double limit = 0; // what --check allows: wider than the goal, for machines under load; 0: any
 };
 
+const char* const Fill = "Report<Floats<Million>, Phase::Fill>";
+const char* const Write = "Report<Floats<Million>, Phase::Write>";
+const char* const Destroy = "Report<Floats<Million>, Phase::Destroy>";
+const char* const Convert = "Convert<Floats<Million>>";
+const char* const PlainWrite = "PlainWrite<Floats<Million>>";
+
 const Ratio Ratios[] = {
-    {"add to a report, 1,000,000 : 10,000 items",
-     {"AddItems<VORKTRReportingBuffer>/1000000"},
-     {"AddItems<VORKTRReportingBuffer>/10000"},
-     3},
-    {"add to a bag, 1,000,000 : 10,000 items",
-     {"AddItems<VORKTRReportingBag>/1000000"},
-     {"AddItems<VORKTRReportingBag>/10000"},
-     3},
-    {"fill by rows, 100,000 x 10 : 1,000 x 10", {"FillRows/100000"}, {"FillRows/1000"}, 3},
-    {"fill by columns, 1,000 x 1,000 : 100 x 100",
-     {"FillSquareByColumns/1000"},
-     {"FillSquareByColumns/100"},
-     3},
-    {"lines of a list, 100,000 : 1,000", {"AddLines/100000"}, {"AddLines/1000"}, 3},
-    {"append, 10 MB : 100 kB", {"Append/1000000"}, {"Append/10000"}, 3},
-    {"replace all, 10 MB : 100 kB",
-     {"ReplaceAllOccurrences/10000000"},
-     {"ReplaceAllOccurrences/100000"},
-     3},
-    {"nested tables, depth 50 : 25", {"NestTables/50"}, {"NestTables/25"}, 3},
-    {"10 MB of text, write : plain write",
-     {"Report<LongText, Phase::Write>"},
-     {"PlainWrite<LongText>"},
-     NoLimit},
-    {"100,000 paragraphs, write : plain write",
-     {"Report<Paragraphs, Phase::Write>"},
-     {"PlainWrite<Paragraphs>"},
-     NoLimit},
-    {"100,000 paragraphs, write : fprintf",
-     {"Report<Paragraphs, Phase::Write>"},
-     {"Fprintf<Paragraphs>"},
-     NoLimit},
-    {"1,000 pages, write : plain write",
-     {"Report<FrameSite, Phase::Write>"},
-     {"PlainWrite<FrameSite>"},
-     NoLimit},
-    {"1,000,000 floats, fill and write : fprintf",
-     {"Report<Floats<Million>, Phase::Fill>", "Report<Floats<Million>, Phase::Write>"},
-     {"Fprintf<Floats<Million>>"},
-     1},
-    {"1,000,000 floats, fill and write : convert and plain write",
-     {"Report<Floats<Million>, Phase::Fill>", "Report<Floats<Million>, Phase::Write>"},
-     {"Convert<Floats<Million>>", "PlainWrite<Floats<Million>>"},
-     2.5},
-    {"1,000,000 floats, fill alone : convert and plain write",
-     {"Report<Floats<Million>, Phase::Fill>"},
-     {"Convert<Floats<Million>>", "PlainWrite<Floats<Million>>"},
-     NoLimit},
-    {"1,000,000 floats, destroy : convert and plain write",
-     {"Report<Floats<Million>, Phase::Destroy>"},
-     {"Convert<Floats<Million>>", "PlainWrite<Floats<Million>>"},
-     NoLimit},
-    {"100,000 floats, text : convert",
-     {"TextReport<Floats<100000>>"},
-     {"Convert<Floats<100000>>"},
-     NoLimit},
-    {"heap bytes for each of 100,000 x 10 floats", {"HeapOfCells/100000/10"}, {}, 96},
-    {"heap bytes for each of 1,000,000 x 1 floats", {"HeapOfCells/1000000/1"}, {}, 96},
+    {{"AddItems<VORKTRReportingBuffer>/1000000"}, {"AddItems<VORKTRReportingBuffer>/10000"}, 3},
+    {{"AddItems<VORKTRReportingBag>/1000000"}, {"AddItems<VORKTRReportingBag>/10000"}, 3},
+    {{"FillRows/100000"}, {"FillRows/1000"}, 3},
+    {{"FillSquareByColumns/1000"}, {"FillSquareByColumns/100"}, 3},
+    {{"AddLines/100000"}, {"AddLines/1000"}, 3},
+    {{"Append/1000000"}, {"Append/10000"}, 3},
+    {{"ReplaceAllOccurrences/10000000"}, {"ReplaceAllOccurrences/100000"}, 3},
+    {{"NestTables/50"}, {"NestTables/25"}, 3},
+    {{"Report<LongText, Phase::Write>"}, {"PlainWrite<LongText>"}},
+    {{"Report<Paragraphs, Phase::Write>"}, {"PlainWrite<Paragraphs>"}},
+    {{"Report<Paragraphs, Phase::Write>"}, {"Fprintf<Paragraphs>"}},
+    {{"Report<FrameSite, Phase::Write>"}, {"PlainWrite<FrameSite>"}},
+    {{Fill, Write}, {"Fprintf<Floats<Million>>"}, 1},
+    {{Fill, Write}, {Convert, PlainWrite}, 2.5},
+    {{Fill}, {Convert, PlainWrite}},
+    {{Destroy}, {Convert, PlainWrite}},
+    {{"TextReport<Floats<100000>>"}, {"Convert<Floats<100000>>"}},
+    {{"HeapBytesPerCell/100000/10"}, {}, 96},
+    {{"HeapBytesPerCell/1000000/1"}, {}, 96},
 };
 
 /// Shows medians only and keeps the smallest CPU time of each benchmark, which other programs on
@@ -101,7 +67,7 @@ public:
     }
 
     /// 0 when one of them was not measured.
-    double Sum(const std::vector<const char*>& iNames) const
+    double Sum(const Names& iNames) const
     {
         double sum = 0;
         for (const char* const name : iNames) {
@@ -130,20 +96,31 @@ private:
     std::map<std::string, double> _Values;
 };
 
+std::string Terms(const Names& iNames)
+{
+    std::string terms;
+    for (const char* const name : iNames)
+        terms += (terms.empty() ? "" : " + ") + std::string(name);
+    return terms;
+}
+
+/// False when it was not measured or is above its limit.
 bool PrintRatio(const Ratio& iRatio, const RatioReporter& iReporter)
 {
     const double measured = iReporter.Sum(iRatio.measured);
     const double against = iRatio.against.empty() ? 1 : iReporter.Sum(iRatio.against);
-    if (measured <= 0 || against <= 0) {
-        std::printf("%-60s not measured\n", iRatio.title);
-        return false;
-    }
-    const double ratio = measured / against;
-    const bool isMet = iRatio.limit == NoLimit || ratio <= iRatio.limit;
-    std::printf("%-60s %8.2f", iRatio.title, ratio);
-    if (iRatio.limit != NoLimit)
-        std::printf("  at most %g%s", iRatio.limit, isMet ? "" : ": MISSED");
-    std::printf("\n");
+    const bool isMeasured = measured > 0 && against > 0;
+    const bool isMet = isMeasured && (iRatio.limit <= 0 || measured / against <= iRatio.limit);
+    if (isMeasured)
+        std::printf("%8.2f", measured / against);
+    else
+        std::printf("%8s", "none");
+    if (iRatio.limit > 0)
+        std::printf(" of at most %-3g %s", iRatio.limit, isMet ? "      " : "MISSED");
+    else
+        std::printf("%23s", "");
+    std::printf("  %s%s%s\n", Terms(iRatio.measured).c_str(), iRatio.against.empty() ? "" : " : ",
+                Terms(iRatio.against).c_str());
     return isMet;
 }
 

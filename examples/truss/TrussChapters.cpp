@@ -39,8 +39,7 @@ void AddLine(VORKTRReportingList& ioList, const std::string& iLabel, double iVal
     ioList.addLine(Unicode(iLabel), iValue, Unicode(iUnit), iFormat);
 }
 
-template <typename Count>
-void AddCount(VORKTRReportingList& ioList, const char* iLabel, Count iCount)
+void AddCount(VORKTRReportingList& ioList, const char* iLabel, std::size_t iCount)
 {
     ioList.addLine(iLabel, static_cast<int>(iCount), "", "%d");
 }
@@ -94,19 +93,16 @@ void AddTable(VORKTRReportingBag& ioBag, const std::vector<Column>& iColumns,
     auto table = std::make_unique<VORKTRReportingTable>(0x01 | 0x08);
     for (std::size_t i = 0; i < iColumns.size(); ++i) {
         const int column = static_cast<int>(i);
-        const std::string& unit = iColumns[i].unit;
-        table->SetText(0, column,
-                       Unicode(iColumns[i].quantity + (unit.empty() ? "" : "\n" + unit)));
+        const auto& [quantity, unit] = iColumns[i];
         const double largest = LargestOfUnit(iColumns, iRows, unit);
         const std::string format = NumberFormat(largest);
+        table->SetText(0, column, Unicode(quantity + (unit.empty() ? "" : "\n" + unit)));
         int line = 0;
-        for (const Row& row : iRows) {
-            ++line;
-            if (i < row.names.size())
-                table->SetText(line, column, Unicode(row.names[i]));
+        for (const auto& [names, numbers] : iRows) {
+            if (i < names.size())
+                table->SetText(++line, column, Unicode(names[i]));
             else
-                table->SetFloat(line, column,
-                                WithoutNoise(row.numbers[i - row.names.size()], largest),
+                table->SetFloat(++line, column, WithoutNoise(numbers[i - names.size()], largest),
                                 format.c_str());
         }
     }
@@ -134,19 +130,17 @@ void AddVectorTable(VORKTRReportingBag& ioBag, const Model& iModel, const std::s
              rows);
 }
 
-double Sum(const std::vector<Bar>& iBars, const std::function<double(const Bar&)>& iValue)
-{
-    double sum = 0;
-    for (const Bar& bar : iBars)
-        sum += iValue(bar);
-    return sum;
-}
-
 void AddModelList(VORKTRReportingBag& ioBag, const Model& iModel)
 {
-    Eigen::Index fixedNb = 0;
+    std::size_t fixedNb = 0;
     for (const Node& node : iModel.nodes)
-        fixedNb += node.fixed.count();
+        fixedNb += static_cast<std::size_t>(node.fixed.count());
+    double volume = 0;
+    double mass = 0;
+    for (const Bar& bar : iModel.bars) {
+        volume += iModel.Volume(bar);
+        mass += iModel.Volume(bar) * iModel.materials[bar.material].density;
+    }
     auto list = std::make_unique<VORKTRReportingList>('=');
     AddCount(*list, "Nodes", iModel.nodes.size());
     AddCount(*list, "Bars", iModel.bars.size());
@@ -156,12 +150,7 @@ void AddModelList(VORKTRReportingBag& ioBag, const Model& iModel)
     for (int axis = 0; axis < 3; ++axis)
         AddLine(*list, std::string("Extent in ") + AxisNames[axis], box.high[axis] - box.low[axis],
                 iModel.lengthUnit);
-    AddLine(*list, "Volume of the bars",
-            Sum(iModel.bars, [&](const Bar& iBar) { return iModel.Volume(iBar); }),
-            iModel.lengthUnit + "^3");
-    const double mass = Sum(iModel.bars, [&](const Bar& iBar) {
-        return iModel.Volume(iBar) * iModel.materials[iBar.material].density;
-    });
+    AddLine(*list, "Volume of the bars", volume, iModel.lengthUnit + "^3");
     if (mass > 0)
         AddLine(*list, "Mass of the bars", mass, iModel.massUnit);
     ioBag.AddObject(list.release());
@@ -231,28 +220,6 @@ void AddBarResults(VORKTRReportingBag& ioBag, const Model& iModel, const Solutio
              rows);
 }
 
-std::size_t LargestDisplacement(const Solution& iSolution)
-{
-    const auto isSmaller = [](const Vector& iLeft, const Vector& iRight) {
-        return iLeft.norm() < iRight.norm();
-    };
-    const auto& all = iSolution.displacements;
-    return static_cast<std::size_t>(std::max_element(all.begin(), all.end(), isSmaller) -
-                                    all.begin());
-}
-
-/// The bars of the smallest and of the largest stress.
-std::pair<std::size_t, std::size_t> StressRange(const Solution& iSolution)
-{
-    const auto isSmaller = [](const BarResult& iLeft, const BarResult& iRight) {
-        return iLeft.stress < iRight.stress;
-    };
-    const auto& all = iSolution.bars;
-    const auto range = std::minmax_element(all.begin(), all.end(), isSmaller);
-    return {static_cast<std::size_t>(range.first - all.begin()),
-            static_cast<std::size_t>(range.second - all.begin())};
-}
-
 void AddDrawing(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution,
                 const std::string& iPath, int iFigure)
 {
@@ -281,8 +248,7 @@ double StrainEnergy(const Solution& iSolution)
     return energy;
 }
 
-void AddCheck(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution,
-              double iSmallestPivot)
+void AddCheck(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution)
 {
     Vector force = Vector::Zero();
     Vector moment = Vector::Zero();
@@ -300,7 +266,8 @@ void AddCheck(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iS
     AddLine(*list, "Their resultant moment about the origin", moment.norm(), work, "%.2e");
     AddLine(*list, "Work of the loads", WorkOfLoads(iSolution), work);
     AddLine(*list, "Strain energy of the bars", StrainEnergy(iSolution), work);
-    AddLine(*list, "Smallest pivot by the direction's own stiffness", iSmallestPivot, "", "%.2e");
+    AddLine(*list, "Smallest pivot by the direction's own stiffness", iSolution.smallestPivot, "",
+            "%.2e");
     AddText(ioBag, "Forces and moments in the first three lines are 0 but for rounding errors.\n"
                    "Work and strain energy are equal. A pivot near 0 means a near mechanism.\n");
     ioBag.AddObject(list.release());
@@ -328,7 +295,7 @@ Chapter MakeModelChapter(const Model& iModel, const std::string& iScenePath)
 }
 
 Chapter MakeCaseChapter(const Model& iModel, const LoadCase& iCase, const Solution& iSolution,
-                        double iSmallestPivot, const std::string& iDrawingPath, int iFigure)
+                        const std::string& iDrawingPath, int iFigure)
 {
     const auto isLoaded = [&](std::size_t iNode) { return !iSolution.loads[iNode].isZero(0); };
     const auto isSupported = [&](std::size_t iNode) { return iModel.nodes[iNode].fixed.any(); };
@@ -348,18 +315,27 @@ Chapter MakeCaseChapter(const Model& iModel, const LoadCase& iCase, const Soluti
     AddTitle(*chapter, "Reactions", 3);
     AddVectorTable(*chapter, iModel, "R", iModel.forceUnit, iSolution.reactions, isSupported);
     AddTitle(*chapter, "Check of the solution", 2);
-    AddCheck(*chapter, iModel, iSolution, iSmallestPivot);
+    AddCheck(*chapter, iModel, iSolution);
     return chapter;
 }
 
 std::string Summarise(const Model& iModel, const LoadCase& iCase, const Solution& iSolution)
 {
-    const std::size_t node = LargestDisplacement(iSolution);
-    const auto [smallest, largest] = StressRange(iSolution);
+    const auto movesLess = [](const Vector& iLeft, const Vector& iRight) {
+        return iLeft.norm() < iRight.norm();
+    };
+    const auto isSmaller = [](const BarResult& iLeft, const BarResult& iRight) {
+        return iLeft.stress < iRight.stress;
+    };
+    const auto& moves = iSolution.displacements;
+    const auto largest = std::max_element(moves.begin(), moves.end(), movesLess);
+    const auto node = static_cast<std::size_t>(largest - moves.begin());
+    const auto [low, high] =
+        std::minmax_element(iSolution.bars.begin(), iSolution.bars.end(), isSmaller);
     return "Load case " + iCase.name + " moves node " + iModel.nodes[node].name + " most, by " +
-           ShortNumber(iSolution.displacements[node].norm()) + " " + iModel.lengthUnit +
-           ".\nIts stresses range from " + ShortNumber(iSolution.bars[smallest].stress) + " to " +
-           ShortNumber(iSolution.bars[largest].stress) + " " + iModel.StressUnit() + ".\n";
+           ShortNumber(largest->norm()) + " " + iModel.lengthUnit + ".\nIts stresses range from " +
+           ShortNumber(low->stress) + " to " + ShortNumber(high->stress) + " " +
+           iModel.StressUnit() + ".\n";
 }
 
 } // namespace truss

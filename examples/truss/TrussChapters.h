@@ -20,7 +20,7 @@ Chapter MakeModelChapter(const Model& iModel, const std::string& iScenePath);
 
 /// The results of a load case, with a drawing that becomes the given figure.
 Chapter MakeCaseChapter(const Model& iModel, const LoadCase& iCase, const Solution& iSolution,
-                        double iSmallestPivot, const std::string& iDrawingPath, int iFigure);
+                        const std::string& iDrawingPath, int iFigure);
 
 /// Two sentences on a load case for the summary.
 std::string Summarise(const Model& iModel, const LoadCase& iCase, const Solution& iSolution);

@@ -63,14 +63,13 @@ Publisher::Publisher(const Model& iModel, const fs::path& iDirectory)
     _Report.AddObject(MakeModelChapter(iModel, scene).release());
 }
 
-void Publisher::Publish(const LoadCase& iCase, const Solution& iSolution, double iSmallestPivot)
+void Publisher::Publish(const LoadCase& iCase, const Solution& iSolution)
 {
     ++_CaseNb;
     _Summary->WriteUnicode(Summarise(_Model, iCase, iSolution).c_str());
     const std::string drawing = WriteTemporary("drawing.svg", DrawSvg(_Model, iSolution));
     const int figure = _CaseNb + 1; // behind the scene
-    _Report.AddObject(
-        MakeCaseChapter(_Model, iCase, iSolution, iSmallestPivot, drawing, figure).release());
+    _Report.AddObject(MakeCaseChapter(_Model, iCase, iSolution, drawing, figure).release());
     WriteSite();
 }
 

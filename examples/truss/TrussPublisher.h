@@ -35,7 +35,7 @@ public:
     Publisher(const Model& iModel, const std::filesystem::path& iDirectory);
 
     /// Adds a load case and writes the site, again from the second case on.
-    void Publish(const LoadCase& iCase, const Solution& iSolution, double iSmallestPivot);
+    void Publish(const LoadCase& iCase, const Solution& iSolution);
     /// Writes the plain text of what was published as "report.txt" beside the site.
     void WriteText() const;
     /// Writes the page that opens the site at its latest chapter and returns its path.

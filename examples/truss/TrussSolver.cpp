@@ -90,6 +90,7 @@ void Solver::CheckPivots(const Eigen::VectorXd& iDiagonal)
 Solution Solver::Solve(const LoadCase& iCase) const
 {
     Solution solution;
+    solution.smallestPivot = _SmallestPivot;
     solution.loads.assign(_Model.nodes.size(), Vector::Zero());
     for (const Load& load : iCase.loads)
         solution.loads[load.node] += load.force;

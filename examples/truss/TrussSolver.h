@@ -23,6 +23,9 @@ struct Solution {
     std::vector<BarResult> bars;
     std::vector<Vector> reactions; ///< By node; 0 in the free directions.
     double residual = 0;           ///< Largest force out of balance in a free direction.
+    /// Smallest ratio of what elimination leaves of a direction's stiffness; near 0 for a structure
+    /// near to a mechanism.
+    double smallestPivot = 1;
 };
 
 /// Linear statics of a space truss: small displacements, bars carry axial force only.
@@ -35,10 +38,6 @@ public:
 
     /// Throws InputError when the results leave the range of numbers.
     Solution Solve(const LoadCase& iCase) const;
-
-    /// Smallest ratio of what elimination leaves of a direction's stiffness; near 0 for a structure
-    /// near to a mechanism.
-    double GetSmallestPivot() const { return _SmallestPivot; }
 
 private:
     using Matrix = Eigen::SparseMatrix<double>;

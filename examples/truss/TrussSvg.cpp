@@ -19,11 +19,12 @@ constexpr double AreaWidth = 620;
 constexpr double LowestArea = 420;
 constexpr double HighestArea = 900;
 constexpr double Margin = 90;
-constexpr double LegendWidth = 190;
+constexpr double LegendLeft = AreaWidth + 2 * Margin;
+constexpr double PageWidth = LegendLeft + 190;
 constexpr double LongestArrow = 70;
 constexpr double ShortestArrow = 22;
 constexpr std::size_t MostNamedNodes = 40;
-constexpr std::size_t MostNamedLoads = 10;
+constexpr std::ptrdiff_t MostNamedLoads = 10;
 
 const char* const Style = "text{font:13px sans-serif;fill:#222}"
                           ".small{font-size:12px;fill:#555}"
@@ -74,10 +75,8 @@ double RoundDown(double iNumber)
 
 std::string Colour(const Vector& iRgb)
 {
-    std::ostringstream text;
-    text << "rgb(" << std::lround(iRgb[0]) << ',' << std::lround(iRgb[1]) << ','
-         << std::lround(iRgb[2]) << ')';
-    return text.str();
+    const auto part = [&](int iIndex) { return std::to_string(std::lround(iRgb[iIndex])); };
+    return "rgb(" + part(0) + "," + part(1) + "," + part(2) + ")";
 }
 
 /// Colour of a stress from -1, the largest compression, to 1.
@@ -178,11 +177,10 @@ std::string Drawing::Write()
 
 void Drawing::WriteHead()
 {
-    const double width = AreaWidth + 2 * Margin + LegendWidth;
     const double height = _AreaHeight + 2 * Margin;
     _Out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << width << "\" height=\""
-         << height << "\" viewBox=\"0 0 " << width << ' ' << height << "\">\n<style>" << Style
+         << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << PageWidth << "\" height=\""
+         << height << "\" viewBox=\"0 0 " << PageWidth << ' ' << height << "\">\n<style>" << Style
          << "</style>\n<defs>\n"
          << "<marker id=\"head\" viewBox=\"0 0 10 10\" refX=\"10\" refY=\"5\" markerWidth=\"5\" "
             "markerHeight=\"5\" orient=\"auto\"><path d=\"M0,0L10,5L0,10z\" fill=\"#1b7837\"/>"
@@ -190,7 +188,7 @@ void Drawing::WriteHead()
     for (std::size_t i = 0; i < StopNb; ++i)
         _Out << "<stop offset=\"" << 100 * static_cast<double>(i) / (StopNb - 1)
              << "%\" stop-color=\"" << Colour(Stops[i]) << "\"/>";
-    _Out << "</linearGradient>\n</defs>\n<rect x=\"0.5\" y=\"0.5\" width=\"" << width - 1
+    _Out << "</linearGradient>\n</defs>\n<rect x=\"0.5\" y=\"0.5\" width=\"" << PageWidth - 1
          << "\" height=\"" << height - 1 << "\" rx=\"8\" fill=\"white\" stroke=\"#99aaff\"/>\n";
 }
 
@@ -260,7 +258,7 @@ void Drawing::WriteLoads()
         const Point tip = OnPage(_Model.nodes[i].position);
         const Point tail = tip - length * direction;
         Line("load", tail, tip, "marker-end=\"url(#head)\"");
-        if (loadNb <= static_cast<std::ptrdiff_t>(MostNamedLoads))
+        if (loadNb <= MostNamedLoads)
             Text("force", tail + Point(0, direction.y() > 0 ? -6 : 16),
                  ShortNumber(force) + " " + _Model.forceUnit, "text-anchor=\"middle\"");
     }
@@ -276,50 +274,48 @@ void Drawing::WriteNames()
 
 void Drawing::WriteColourScale()
 {
-    const double left = AreaWidth + 2 * Margin;
     const double top = 70;
     const double height = 200;
-    Text("", {left, 34}, "Stress of the bars");
-    Text("small", {left, 52}, "in " + _Model.StressUnit() + ", tension positive");
-    _Out << "<rect x=\"" << left << "\" y=\"" << top << "\" width=\"22\" height=\"" << height
+    Text("", {LegendLeft, 34}, "Stress of the bars");
+    Text("small", {LegendLeft, 52}, "in " + _Model.StressUnit() + ", tension positive");
+    _Out << "<rect x=\"" << LegendLeft << "\" y=\"" << top << "\" width=\"22\" height=\"" << height
          << "\" fill=\"url(#stress)\"/>\n";
     for (int i = 0; i < StopNb; ++i) {
         const double part = i / (StopNb - 1.0);
         const double y = top + height * (1 - part);
-        Line("axis", {left + 22, y}, {left + 28, y});
-        Text("", {left + 34, y + 4}, ShortNumber(_LargestStress * (2 * part - 1)));
+        Line("axis", {LegendLeft + 22, y}, {LegendLeft + 28, y});
+        Text("", {LegendLeft + 34, y + 4}, ShortNumber(_LargestStress * (2 * part - 1)));
     }
 }
 
 void Drawing::WriteKey()
 {
-    const double left = AreaWidth + 2 * Margin;
-    const double text = left + 50;
-    Line("undeformed", {left, 310}, {left + 40, 310});
+    const double text = LegendLeft + 50;
+    Line("undeformed", {LegendLeft, 310}, {LegendLeft + 40, 310});
     Text("", {text, 314}, "undeformed");
-    Line("deformed", {left, 336}, {left + 40, 336}, "stroke=\"#5a6472\" stroke-width=\"3\"");
+    Line("deformed", {LegendLeft, 336}, {LegendLeft + 40, 336},
+         "stroke=\"#5a6472\" stroke-width=\"3\"");
     Text("", {text, 340}, "deformed,");
     Text("", {text, 356}, "enlarged " + ShortNumber(_Enlargement) + " times");
-    Line("load", {left, 378}, {left + 40, 378}, "marker-end=\"url(#head)\"");
+    Line("load", {LegendLeft, 378}, {LegendLeft + 40, 378}, "marker-end=\"url(#head)\"");
     Text("", {text, 382}, "load, at most");
     Text("", {text, 398}, ShortNumber(LargestNorm(_Solution.loads)) + " " + _Model.forceUnit);
-    WriteSupport({left + 10, 413}, true);
-    WriteSupport({left + 32, 413}, false);
+    WriteSupport({LegendLeft + 10, 413}, true);
+    WriteSupport({LegendLeft + 32, 413}, false);
     Text("", {text, 420}, "fixed in all");
     Text("", {text, 436}, "or some directions");
 }
 
 void Drawing::WriteLengthScale()
 {
-    const double left = AreaWidth + 2 * Margin;
     const double y = 476;
     const double length = RoundDown(150 / _Scale);
-    const double right = left + length * _Scale;
-    Line("axis", {left, y}, {right, y});
-    for (const double x : {left, right})
+    const double right = LegendLeft + length * _Scale;
+    Line("axis", {LegendLeft, y}, {right, y});
+    for (const double x : {LegendLeft, right})
         Line("axis", {x, y - 5}, {x, y + 5});
-    Text("", {left, y + 22}, ShortNumber(length) + " " + _Model.lengthUnit);
-    Text("small", {left, y + 40}, "along the axes");
+    Text("", {LegendLeft, y + 22}, ShortNumber(length) + " " + _Model.lengthUnit);
+    Text("small", {LegendLeft, y + 40}, "along the axes");
 }
 
 void Drawing::WriteAxes()

@@ -46,20 +46,15 @@ bool Parse(std::vector<std::string> iWords, Arguments& oArguments)
 }
 
 /// The page to show goes through the shell as it stands, so nothing in its path may mean anything
-/// there. Bytes above ASCII, as in accented letters, do not.
+/// there.
 void CheckForShell(const fs::path& iPath)
 {
-    const auto isPlain = [](char iCharacter) {
-        const bool isLetter =
-            (iCharacter >= 'a' && iCharacter <= 'z') || (iCharacter >= 'A' && iCharacter <= 'Z');
-        const bool isDigit = iCharacter >= '0' && iCharacter <= '9';
-        return isLetter || isDigit || static_cast<unsigned char>(iCharacter) >= 0x80 ||
-               std::string("/._-+,:@").find(iCharacter) != std::string::npos;
-    };
-    const std::string path = iPath.string();
-    if (!std::all_of(path.begin(), path.end(), isPlain))
-        throw truss::InputError(path + ": --open takes only letters, digits and / . _ - + , : @ in "
-                                       "this path, since the browser is started through the shell");
+    const char* const plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"
+                              "/._-+,:@";
+    if (iPath.string().find_first_not_of(plain) != std::string::npos)
+        throw truss::InputError(iPath.string() +
+                                ": --open takes only ASCII letters, digits and / . _ - + , : @ in "
+                                "this path, since the browser is started through the shell");
 }
 
 std::vector<truss::LoadCase> ChooseCases(const truss::Model& iModel,
@@ -105,7 +100,7 @@ void Run(const Arguments& iArguments)
 
     truss::Publisher publisher(model, directory);
     for (std::size_t i = 0; i < cases.size(); ++i)
-        publisher.Publish(cases[i], solutions[i], solver.GetSmallestPivot());
+        publisher.Publish(cases[i], solutions[i]);
     publisher.WriteText();
     if (iArguments.isOpening)
         Open(publisher.WriteReloadPage());

@@ -1,48 +1,33 @@
 #include <csignal>
-#include <cstdlib>
-#include <string>
+#include <iostream>
 
 #include <gtest/gtest.h>
 
 #include "VORComponent.h"
 #include "VORDictionary.h"
-#include "VOREnvironment.h"
 #include "VORFatalError.h"
 #include "VORMsgCatalog.h"
 
 namespace
 {
 
-TEST(Environment, AnEmptyValueIsSet)
-{
-    ASSERT_EQ(::unsetenv("VOR_TEST_VARIABLE"), 0);
-    EXPECT_EQ(VORGetEnv("VOR_TEST_VARIABLE"), nullptr);
-    ASSERT_EQ(::setenv("VOR_TEST_VARIABLE", "", 1), 0);
-    EXPECT_STREQ(VORGetEnv("VOR_TEST_VARIABLE"), "");
-}
-
 void Fail()
 {
     VORFatalError("Failed:_Text", nullptr, nullptr, nullptr, "src/VORText", 4711);
 }
 
-TEST(FatalErrorDeathTest, SaysWhereAndAbortsUnlessAHandlerThrows)
+TEST(FatalErrorDeathTest, AbortsUnlessAHandlerThrows)
 {
-    EXPECT_EXIT(Fail(), testing::KilledBySignal(SIGABRT), "Failed:_Text.*src/VORText.*4711");
-    const VORFatalErrorHandler returning = [](const char*, const char*, int) {};
-    const VORFatalErrorHandler throwing = [](const char* iKey, const char* iPath, int iLine) {
-        throw std::string(iKey) + iPath + std::to_string(iLine);
+    const testing::KilledBySignal aborted(SIGABRT);
+    const VORFatalErrorHandler returning = [](const char* iKey, const char* iPath, int iLine) {
+        std::cerr << iKey << '|' << iPath << '|' << iLine;
     };
+    const VORFatalErrorHandler throwing = [](const char*, const char*, int) { throw 1; };
+    EXPECT_EXIT(Fail(), aborted, "Failed:_Text.*src/VORText.*4711");
     EXPECT_EQ(VORSetFatalErrorHandler(returning), nullptr);
-    EXPECT_EXIT(Fail(), testing::KilledBySignal(SIGABRT), "^$");
+    EXPECT_EXIT(Fail(), aborted, "^Failed:_Text.src/VORText.4711$");
     EXPECT_EQ(VORSetFatalErrorHandler(throwing), returning);
-    std::string caught;
-    try {
-        Fail();
-    } catch (const std::string& message) {
-        caught = message;
-    }
-    EXPECT_EQ(caught, "Failed:_Textsrc/VORText4711");
+    EXPECT_THROW(Fail(), int);
     VORSetFatalErrorHandler(nullptr);
 }
 
@@ -53,8 +38,8 @@ TEST(Messages, RegisteredTextsComeBeforeTheDefault)
         return VORMsgCatalog::BuildMessage(iCatalog, iKey, parameters, 2, "/p2:/p1,/p1 /p3/p/");
     };
     VORMsgCatalog::RegisterMessage("Catalog", "Key", "first");
-    VORMsgCatalog::RegisterMessage("Catalog", "Key", "Bild \xC3\xA9");
-    EXPECT_TRUE(build("Catalog", "Key") == "Bild \xC3\xA9");
+    VORMsgCatalog::RegisterMessage("Catalog", "Key", "Bild \u00E9");
+    EXPECT_TRUE(build("Catalog", "Key") == "Bild \u00E9");
     EXPECT_TRUE(build("Other", "Key") == "second:plots/p2.gif,plots/p2.gif /p3/p/");
     EXPECT_TRUE(build("Catalog", "Other") == build("Other", "Key"));
 }
@@ -67,9 +52,7 @@ VORMetaClass ComponentMeta(&ComponentId, "Component", nullptr, &InterfaceMeta,
                            VORImplementationKind);
 const VORFillDictionary Fill(InterfaceId, CLSID_VORMetaClass, &InterfaceMeta, nullptr);
 
-class Component : public VORBaseUnknown
-{
-public:
+struct Component : VORBaseUnknown {
     Component() { ++Living; }
     ~Component() override { --Living; }
     VORMetaClass* GetMetaObject() const override { return &InterfaceMeta; }
@@ -77,28 +60,30 @@ public:
     static inline int Living = 0;
 };
 
-VORBaseUnknown* MakeComponent()
-{
-    return new Component;
-}
+struct Careless : VORBaseUnknown {
+    VORStatus QueryInterface(const GUID&, void** oInterface) override
+    {
+        *oInterface = this;
+        return VOR_E_NOINTERFACE;
+    }
+};
 
 TEST(Components, AreMadeByNameWithOneReference)
 {
     VORRegisterComponent("Nothing", []() -> VORBaseUnknown* { return nullptr; });
-    VORRegisterComponent("Component", MakeComponent);
+    VORRegisterComponent("Careless", []() -> VORBaseUnknown* { return new Careless; });
+    VORRegisterComponent("Component", []() -> VORBaseUnknown* { return new Component; });
     void* found = nullptr;
     for (const GUID& id : {InterfaceId, IID_IUnknown, IID_VORBaseUnknown}) {
         ASSERT_EQ(VORInstantiateComponent("Component", id, &found), VOR_S_OK);
-        EXPECT_EQ(static_cast<VORBaseUnknown*>(found)->AddRef(), 2u);
-        EXPECT_EQ(static_cast<VORBaseUnknown*>(found)->Release(), 1u);
-        EXPECT_EQ(Component::Living, 1);
+        ASSERT_EQ(Component::Living, 1);
         EXPECT_EQ(static_cast<VORBaseUnknown*>(found)->Release(), 0u);
         EXPECT_EQ(Component::Living, 0);
     }
-    for (const char* const name : {"Component", "Nothing", "Absent"}) {
+    for (const char* const name : {"Component", "Careless", "Nothing", "Absent"}) {
         found = &Component::Living;
-        EXPECT_LT(VORInstantiateComponent(name, ComponentId, &found), 0);
-        EXPECT_EQ(found, nullptr);
+        EXPECT_LT(VORInstantiateComponent(name, ComponentId, &found), 0) << name;
+        EXPECT_EQ(found, nullptr) << name;
     }
     EXPECT_EQ(Component::Living, 0);
     VORRegisterComponent("Component", nullptr);
@@ -107,8 +92,8 @@ TEST(Components, AreMadeByNameWithOneReference)
 
 TEST(Components, AreHeldByOneReference)
 {
-    VORBaseUnknown* const first = MakeComponent();
-    VORBaseUnknown* const second = MakeComponent();
+    VORBaseUnknown* const first = new Component;
+    VORBaseUnknown* const second = new Component;
     VORBaseUnknown_var handle;
     EXPECT_EQ(handle.CastTo(first, InterfaceId), first);
     EXPECT_EQ(first->Release(), 1u);
