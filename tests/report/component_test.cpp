@@ -33,7 +33,7 @@ struct Answers {
     int flagStatus;
     unsigned char flag;
     int pathStatus;
-    std::string path;
+    const char* path;
 };
 
 /// The settings of a user.
@@ -46,7 +46,7 @@ struct Settings : VORIKTRReportingSettingAtt {
     }
     int GetBackgroundPath(VORUnicodeString& oPath) override
     {
-        return oPath = Given.path.c_str(), Given.pathStatus;
+        return oPath = Given.path, Given.pathStatus;
     }
 
     static inline int Living;
@@ -73,18 +73,20 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     fs::create_directory(images);
     WriteFile(images + "/Corp.gif", "standard");
     WriteFile(images + "/paper.png", "user's");
-    const std::string paper = images + "/paper.png";
-    const std::string missing = images + "/missing.png";
-    const std::string colour = "BGCOLOR=\"#EEF3FF\"";
-    const std::string standard = "BACKGROUND=\"Corp.gif\"";
-    const std::string user = "BACKGROUND=\"paper.png\"";
-    const std::string named = "BACKGROUND=\"missing.png\"";
+    const std::string paths[] = {images + "/paper.png", images + "/missing.png", images + "/"};
+    const char* const paper = paths[0].c_str();
+    const char* const missing = paths[1].c_str();
+    const char* const directory = paths[2].c_str();
+    const char* const colour = "BGCOLOR=\"#EEF3FF\"";
+    const char* const standard = "BACKGROUND=\"Corp.gif\"";
+    const char* const user = "BACKGROUND=\"paper.png\"";
+    const char* const named = "BACKGROUND=\"missing.png\"";
     // In this order: the background copied last stays that of first pages.
     const struct {
         VORComponentFactory settings;
         Answers given;
         bool hasStandard;
-        std::string first, next, copied;
+        const char *first, *next, *copied;
     } cases[] = {
         {nullptr, {}, false, colour, colour, ""},
         {New<VORBaseUnknown>, {}, false, colour, colour, ""},
@@ -93,7 +95,7 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
         {New<Settings>, {VOR_E_FAIL, 0, 0, paper}, false, colour, colour, ""},
         {New<Settings>, {0, 0, VOR_E_FAIL, paper}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, "paper.png"}, false, colour, colour, ""},
-        {New<Settings>, {0, 0, 0, images + "/"}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, directory}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, missing}, false, colour, named, ""},
         {New<Settings>, {0, 0, 0, paper}, true, user, user, "paper.png"},
         {New<Settings>, {0, 0, 0, missing}, false, user, named, ""},
@@ -114,7 +116,7 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
         report.GetPagesNumber() = 1;
         ASSERT_EQ(Make(), 0);
         EXPECT_EQ(Settings::Living, 0);
-        EXPECT_EQ(Background("navigation.html"), one.first + " ALINK=\"#0000FF\"");
+        EXPECT_EQ(Background("navigation.html"), std::string(one.first) + " ALINK=\"#0000FF\"");
         EXPECT_EQ(Background("page1.html"), one.first);
         EXPECT_EQ(Background("page3.html"), one.next);
         for (const std::string image : {"Corp.gif", "paper.png"})
