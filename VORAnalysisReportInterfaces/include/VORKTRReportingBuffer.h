@@ -27,9 +27,8 @@ public:
     /// Appends an item and takes ownership of it. Do not add an item twice. Fails on null.
     int AddObject(VORKTRReportingObj* iObject);
 
-    /// Inserts an item before position iIndex, from 0, and takes ownership of it. Fails, leaving
-    /// the item the caller's, on null and on a position that holds no entry yet: the end is
-    /// refused.
+    /// Inserts an item before position iIndex, from 0, and takes ownership of it. Fails on null and
+    /// on a position that holds no entry yet (the end is refused); the item stays the caller's.
     int InsertObjectAtIndex(VORKTRReportingObj* iObject, int iIndex);
 
     /// Destroys the item at a position, which stays as an empty one: other positions do not move.
@@ -72,8 +71,7 @@ public:
 
     /// @{ The steps of a run, in order. BeginReport writes the stylesheets, copies the background
     /// image and opens the first page; Flush writes the items; FinishReport closes the pages and
-    /// deletes "reload.html". All fail before the first MakeReport, Flush also
-    /// without an open page.
+    /// deletes "reload.html". All fail before the first MakeReport, Flush without an open page too.
     int BeginReport();
     int Flush();
     int FinishReport();
@@ -84,14 +82,18 @@ public:
     int FramesExist() const;
 
     /// Writes "main.css" and, when withNavigation is not 0, "navigation.css" into a directory.
+    /// Returns 0, 0x80004005 when one cannot be opened, or the status of an impossible path.
     static int MakeStylesheets(VORUnicodeString& directory, char withNavigation);
 
     /// Writes the frame set "index.html" and opens "navigation.html" and "page1.html", their heads
-    /// written, for the caller to go on with and close.
+    /// written, for the caller to go on with and close. Returns as MakeStylesheets does; what was
+    /// opened before a failure stays open.
     static int PrepareFrames(VORUnicodeString& directory, const VORUnicodeString& title,
                              unsigned int& navigationFile, unsigned int& pageFile);
 
     /// Copies a file, the background image, into the report directory, replacing one of its name.
+    /// Returns 0, 0x80004005 before the first MakeReport, or the status of the path or copy that
+    /// failed.
     int CopyIcon(VORUnicodeString& iFileName, VORUnicodeString& iSourceDirectory) const;
 
     /// Writes "reload.html", a frame set that reopens the site at its latest page and heading.
