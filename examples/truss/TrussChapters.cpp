@@ -96,7 +96,10 @@ void AddTable(VORKTRReportingBag& ioBag, const std::vector<Column>& iColumns,
         const auto& [quantity, unit] = iColumns[i];
         const double largest = LargestOfUnit(iColumns, iRows, unit);
         const std::string format = NumberFormat(largest);
-        table->SetText(0, column, Unicode(quantity + (unit.empty() ? "" : "\n" + unit)));
+        std::string header = quantity;
+        if (!unit.empty())
+            header.append("\n").append(unit);
+        table->SetText(0, column, Unicode(header));
         int line = 0;
         for (const auto& [names, numbers] : iRows) {
             if (i < names.size())

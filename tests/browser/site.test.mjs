@@ -62,6 +62,7 @@ async function checkNavigation(expected) {
   const links = await frame("NavigationFrame").locator("a").all();
   const texts = await Promise.all(links.map((link) => link.textContent()));
   if (expected) assert.deepEqual(texts, expected);
+  let images = 0;
   for (const [i, link] of links.entries()) {
     const { text, anchor } = await follow(link);
     const heading = anchor
@@ -69,12 +70,16 @@ async function checkNavigation(expected) {
       : text.locator("p.maintitle");
     assert.equal(await heading.textContent(), texts[i]);
     assert.ok(await inSight(heading), `${texts[i]} is in sight`);
+    images += await checkImages(text);
   }
+  assert.ok(images > 0, "there are images");
 }
 
 async function checkImages(document) {
-  for (const image of await document.locator("img").all())
+  const images = await document.locator("img").all();
+  for (const image of images)
     assert.ok((await image.evaluate((e) => e.naturalWidth)) > 0, "an image has loaded");
+  return images.length;
 }
 
 const cells = (table) =>
@@ -107,7 +112,6 @@ test("the frame set shows the navigation and the text", async () => {
   const chapters = [1, 2, 3].flatMap((i) =>
     [`Chapter ${i}`, `Details of Chapter ${i}`, `Tables of Chapter ${i}`]);
   await checkNavigation(["Bridge \u00c4 1", ...chapters]);
-  await checkImages(frame("TextFrame"));
   assert.ok(requests.includes("/frames/Corp.gif"), "the background is fetched");
 });
 
@@ -116,7 +120,7 @@ test("pages hold what the application put in", async () => {
   await checkChapter(page, "Chapter 2");
   await open("single/index.html");
   await checkChapter(page, "Chapter 1");
-  await checkImages(page);
+  assert.equal(await checkImages(page), 1);
   assert.ok(requests.includes("/single/Corp.gif"), "the background is fetched");
   const caption = page.locator("center", { hasText: "Figure" }).last();
   assert.equal((await caption.textContent()).trim(), "Figure 1");
@@ -141,7 +145,6 @@ test("the reload page ends at the last heading", async () => {
 test("the example's report can be read from one end to the other", async () => {
   await open("truss/index.html");
   await checkNavigation();
-  await checkImages(frame("TextFrame"));
   const { text } = await follow(frame("NavigationFrame").locator("a", { hasText: /^Scene$/ }));
   const scene = await text.locator("a", { hasText: "[Full page]" }).evaluate((a) => a.href);
   assert.match(await (await page.request.get(scene)).text(), /^#VRML V2\.0 utf8\n/);

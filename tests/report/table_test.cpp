@@ -92,6 +92,61 @@ TEST(Table, StylesDrawRulesSeparatorsAndHeaders)
     EXPECT_EQ(text, Expected("table_styles.txt"));
 }
 
+// One cell of one row: the frame and its place, put together from the rules for each style.
+std::string FrameOf(unsigned long iStyle, const std::string& iText, int iWidth, bool iInTable)
+{
+    int width = iWidth;
+    const bool right = !iInTable && width + 1 < 80;
+    width += right ? 1 : 0;
+    const bool left = !iInTable && width + 1 < 80;
+    width += left ? 1 : 0;
+    int indent = iInTable || width >= 80 ? 0 : (80 - width) / 2;
+    if (iStyle & 0x10)
+        indent = width < 78 ? 2 : width == 78 ? 1 : 0;
+    const std::string margin = Repeat(indent, " ");
+    const std::string edge = iStyle & 0x0F ? "*" : " ";
+    const std::string rule = iStyle & 0x0F ? margin + Repeat(width, "*") + "\n" : "";
+    return rule + margin + edge + (left ? " " : "") + iText + (right ? " " : "") + edge + "\n" +
+           rule;
+}
+
+TEST(Table, FramesOneCellInEveryStyleAroundThePageWidth)
+{
+    for (unsigned long style = 0; style < 32; ++style) {
+        for (int width = 75; width <= 82; ++width) {
+            Table table(style);
+            const std::string text = Repeat(width - 2, "σ");
+            table.SetText(0, 0, text.c_str());
+            EXPECT_EQ(TextOf(table), FrameOf(style, text, width, false)) << style << " " << width;
+            EXPECT_EQ(CellTextOf(table), FrameOf(style, text, width, true)) << style;
+        }
+    }
+}
+
+TEST(Table, CellsTakeNumberFormatsOfEveryKind)
+{
+    const std::pair<const char*, std::string> ints[] = {
+        {"%i", "42"}, {"%u", "42"},  {"%o", "52"},       {"%#x", "0x2a"}, {"%X", "2A"},
+        {"%c", "*"},  {"%hd", "42"}, {"%-4d|", "42  |"}, {"%d%d", "42"},  {"%f", "42"}};
+    const std::pair<const char*, std::string> floats[] = {
+        {"%F", " 1.500000"}, {"%e", " 1.500000e+00"}, {"%E", " 1.500000E+00"},
+        {"%G", " 1.5"},      {"%.0f", " 2."},         {"%a", " 0x1.8p+0"},
+        {"%A", " 0X1.8P+0"}, {"%d", " 1.5"},          {"%+.2f%%", " +1.50%"}};
+    Table table(0x10);
+    std::string cells;
+    int column = 0;
+    for (const auto& [format, text] : ints) {
+        table.SetInt(0, column++, 42, format);
+        cells += "<TD ALIGN=CENTER>" + text + "</TD>\n";
+    }
+    for (const auto& [format, text] : floats) {
+        table.SetFloat(0, column++, 1.5f, format);
+        cells += "<TD ALIGN=RIGHT>" + text + "</TD>\n";
+    }
+    EXPECT_EQ(HtmlOf(table),
+              "<P>\n\n<TABLE BORDER=0 CELLPADDING=5>\n<TR>\n" + cells + "</TR>\n</TABLE>\n</P>\n");
+}
+
 TEST(Table, PadsItsCellsAndCentresItselfWhileItFits)
 {
     const struct {

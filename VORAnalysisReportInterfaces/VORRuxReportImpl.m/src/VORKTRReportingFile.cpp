@@ -31,7 +31,6 @@ bool CopyStream(std::FILE* iSource, std::FILE* iTarget)
     std::size_t size = 0;
     while ((size = std::fread(block, 1, sizeof block, iSource)) > 0)
         std::fwrite(block, 1, size, iTarget);
-    std::fflush(iTarget);
     return !std::ferror(iSource) && !std::ferror(iTarget);
 }
 
@@ -41,10 +40,11 @@ bool CopyAndDelete(const char* iSource, const char* iTarget)
     const FileStream source = OpenStream(iSource, "rb");
     if (!source)
         return false;
-    const FileStream target = OpenStream(iTarget, "wb");
+    FileStream target = OpenStream(iTarget, "wb");
     if (!target)
         return false;
-    if (CopyStream(source.get(), target.get()))
+    const bool isWhole = CopyStream(source.get(), target.get());
+    if (std::fclose(target.release()) == 0 && isWhole)
         VORDeleteFile(iSource);
     return true;
 }
