@@ -185,8 +185,12 @@ TEST_F(SiteTest, ARunClosesThePagesThatAFailedOneLeftOpen)
     Add({Title("One", 1), Title("Two", 1)});
     fs::create_directories(site + "/page1.html");
     EXPECT_EQ(Make(), VOR_E_FAIL);
+    auto* const late = new Probe;
+    Add({late});
+    EXPECT_EQ(late->directory, ""); // told by the run that gets to its items
     fs::remove(site + "/page1.html");
     EXPECT_EQ(Make(), 0);
+    EXPECT_EQ(late->directory, site);
     unsigned int files[3]; // in a process of its own the lowest numbers are free again
     for (unsigned int& file : files)
         ASSERT_EQ(VORFOpen("/dev/null", "w", file), 0);
