@@ -24,7 +24,7 @@ FileStream OpenStream(const char* iPath, const char* iMode)
     return FileStream(std::fopen(iPath, iMode), &std::fclose);
 }
 
-// True when every byte of the source is in the target, on the system's word.
+// True when all of the source was read and the target took it; the close has the last word.
 bool CopyStream(std::FILE* iSource, std::FILE* iTarget)
 {
     char block[1024];
