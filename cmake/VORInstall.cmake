@@ -9,6 +9,7 @@ set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
 # Installs a library and its folder of exported headers.
 function(vor_install_library target)
     install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT Runtime NAMELINK_COMPONENT Development
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target})
@@ -41,7 +42,8 @@ install(FILES README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${CMAKE_INSTALL
     COMPONENT Documentation)
 install(FILES VORSystem/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/VORSystem
     COMPONENT Documentation)
-install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Documentation)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Documentation
+    USE_SOURCE_PERMISSIONS)
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT Documentation
     FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
 

@@ -14,8 +14,8 @@ function(vor_configure_target target)
     endif()
 endfunction()
 
-# A shared library of the project: exports what its exports.map lists, versioned by the project's
-# major version.
+# A library of the project. A shared one exports what its exports.map lists, and is versioned by the
+# project's major version.
 function(vor_configure_library target)
     vor_configure_target(${target})
     set(exports ${CMAKE_CURRENT_SOURCE_DIR}/exports.map)
