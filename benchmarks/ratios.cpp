@@ -57,9 +57,12 @@ public:
     {
         std::vector<Run> shown;
         for (const Run& run : runs) {
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
+            // One that failed has no time; its own mark has changed its name between versions.
+            const bool isIteration = run.run_type == Run::RT_Iteration;
+            const bool isFailed = isIteration && run.cpu_accumulated_time <= 0;
+            if (isIteration && !isFailed)
                 Keep(run);
-            if (run.repetitions <= 1 || run.error_occurred || run.aggregate_name == "median")
+            if (run.repetitions <= 1 || isFailed || run.aggregate_name == "median")
                 shown.push_back(run);
         }
         if (!shown.empty())
