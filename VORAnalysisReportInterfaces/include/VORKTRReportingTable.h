@@ -7,11 +7,17 @@
 
 #include "VORKTRReportingObj.h"
 
+/// @{ The style of a table is a sum of these: the first row, the last row, the first column are
+/// headers; rules between the columns and a border; not centred on the page.
+constexpr unsigned long VORKTRTableHeaderRow = 0x01;
+constexpr unsigned long VORKTRTableLastRow = 0x02;
+constexpr unsigned long VORKTRTableHeaderColumn = 0x04;
+constexpr unsigned long VORKTRTableRuled = 0x08;
+constexpr unsigned long VORKTRTableNotCentered = 0x10;
+/// @}
+
 /// A grid of cells, each an item or empty. Rows and columns count from 0; the grid grows to hold
 /// each cell that is set. Integers and texts are centred, floats right-aligned.
-///
-/// The style is a sum of: 0x01 first row, 0x02 last row, 0x04 first column are headers; 0x08 rules
-/// between the columns and a border; 0x10 not centred on the page.
 class VORKTR_EXPORT VORKTRReportingTable : public VORKTRReportingObj
 {
 public:

@@ -19,13 +19,8 @@
 namespace
 {
 
-constexpr unsigned long HeaderRow = 0x01;
-constexpr unsigned long LastRow = 0x02;
-constexpr unsigned long HeaderColumn = 0x04;
-constexpr unsigned long Ruled = 0x08;
-constexpr unsigned long NotCentered = 0x10;
-constexpr unsigned long Edged = HeaderRow | LastRow | HeaderColumn;
-constexpr unsigned long Framed = Edged | Ruled;
+constexpr unsigned long Edged = VORKTRTableHeaderRow | VORKTRTableLastRow | VORKTRTableHeaderColumn;
+constexpr unsigned long Framed = Edged | VORKTRTableRuled;
 
 // The last position is kept out, so that the counts fit an int.
 bool IsPosition(int iRow, int iColumn)
@@ -196,10 +191,10 @@ void VORKTRReportingTable::Report(unsigned int iFile, const char* iPath, unsigne
 {
     if (_RowNb == 0 || _ColumnNb == 0)
         return;
-    const bool isCentered = !(_Style & NotCentered);
+    const bool isCentered = !(_Style & VORKTRTableNotCentered);
     WriteFragment(iFile, isCentered ? "<BR>\n<CENTER>\n" : "<P>\n\n");
-    WriteFragment(iFile, _Style & Ruled ? "<TABLE BORDER=2 CELLPADDING=5>\n"
-                                        : "<TABLE BORDER=0 CELLPADDING=5>\n");
+    WriteFragment(iFile, _Style & VORKTRTableRuled ? "<TABLE BORDER=2 CELLPADDING=5>\n"
+                                                   : "<TABLE BORDER=0 CELLPADDING=5>\n");
     for (int row = 0; row < _RowNb; ++row) {
         WriteFragment(iFile, OpenRow);
         for (int column = 0; column < _ColumnNb; ++column) {
@@ -219,11 +214,11 @@ char VORKTRReportingTable::CellStyle(int iRow, int iColumn) const
 {
     unsigned long style = 0;
     if (iRow == 0)
-        style |= _Style & HeaderRow;
+        style |= _Style & VORKTRTableHeaderRow;
     if (iRow == _RowNb - 1)
-        style |= _Style & LastRow;
+        style |= _Style & VORKTRTableLastRow;
     if (iColumn == 0)
-        style |= _Style & HeaderColumn;
+        style |= _Style & VORKTRTableHeaderColumn;
     return static_cast<char>(style);
 }
 
@@ -262,7 +257,7 @@ void VORKTRReportingTable::ASCIIReport_generic(VORUnicodeString& out, unsigned c
     const std::unique_ptr<const int[]> widths(GetColsWidth());
     const int width = GetWidthInChar();
     Placement place = inTable ? Placement{width, "", "", ""} : PlaceOnPage(width, _ColumnNb);
-    if (_Style & NotCentered)
+    if (_Style & VORKTRTableNotCentered)
         place.indent = IndentOfNotCentered(place.width);
     const VORUnicodeString rule = place.indent + Repeat('*', place.width) + "\n";
     if (_Style & Framed)
@@ -276,7 +271,8 @@ void VORKTRReportingTable::ASCIIReport_generic(VORUnicodeString& out, unsigned c
 
 bool VORKTRReportingTable::HasRuleBelow(int iRow) const
 {
-    return (iRow == 0 && (_Style & HeaderRow)) || (iRow == _RowNb - 2 && (_Style & LastRow)) ||
+    return (iRow == 0 && (_Style & VORKTRTableHeaderRow)) ||
+           (iRow == _RowNb - 2 && (_Style & VORKTRTableLastRow)) ||
            (iRow == _RowNb - 1 && (_Style & Framed));
 }
 
@@ -310,7 +306,7 @@ void VORKTRReportingTable::PrintRow(VORUnicodeString& out, int row, const VORUni
 
 char VORKTRReportingTable::SeparatorChar() const
 {
-    return _Style & Ruled ? '*' : ' ';
+    return _Style & VORKTRTableRuled ? '*' : ' ';
 }
 
 char VORKTRReportingTable::EdgeChar() const
@@ -320,7 +316,7 @@ char VORKTRReportingTable::EdgeChar() const
 
 char VORKTRReportingTable::SeparatorBehind(int iColumn) const
 {
-    if (iColumn == 0 && (_Style & HeaderColumn))
+    if (iColumn == 0 && (_Style & VORKTRTableHeaderColumn))
         return '*';
     return iColumn == _ColumnNb - 1 ? EdgeChar() : SeparatorChar();
 }
