@@ -32,6 +32,11 @@ class VORKTR_EXPORT VORIKTRReporting_var : public VORBaseUnknown_var
 public:
     /// Asks iObject for this interface and holds it; null when it is refused.
     VORBaseUnknown* __CastTo(IUnknown* iObject);
+
+    /// @{ What the handle holds, not owned by who asks; null when it is empty.
+    operator VORIKTRReporting*() const { return static_cast<VORIKTRReporting*>(Get()); }
+    VORIKTRReporting* operator->() const { return *this; }
+    /// @}
 };
 
 #endif

@@ -2,7 +2,7 @@
 #define VORKTRReportingBag_h
 
 #include "VORKTRReportingObj.h"
-#include "VORKTRSteppedArray.h"
+#include "detail/VORKTRSteppedArray.h"
 
 /// Groups items so that a report holds and removes them as one; it renders as its children in
 /// order.

@@ -5,8 +5,8 @@
 
 #include "VORAnalysisReportInterfacesExport.h"
 #include "VORKTRReportingObj.h"
-#include "VORKTRSteppedArray.h"
 #include "VORUnicodeString.h"
+#include "detail/VORKTRSteppedArray.h"
 
 /// A report: an ordered list of items that writes itself as a static web site (MakeReport) and as
 /// plain text for a page of 80 columns (MakeTextReport). A report and its items are used from one

@@ -5,7 +5,6 @@
 /// Included files.
 
 #include <memory>
-#include <string_view>
 
 #include "VORKTRReportingObj.h"
 #include "VORString.h"
@@ -51,7 +50,7 @@ public:
     void ASCIIReport_in_Table(VORUnicodeString& ioText) const override;
 
 private:
-    void WriteEmbed(unsigned int iFile, std::string_view iAttributes) const;
+    void WriteEmbed(unsigned int iFile, const char* iAttributes) const;
     const char* GetWord() const;
 
     VORKTRReportingFileType _Type;

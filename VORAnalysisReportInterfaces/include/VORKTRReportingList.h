@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "VORKTRReportingObj.h"
-#include "VORKTRSteppedArray.h"
+#include "detail/VORKTRSteppedArray.h"
 
 /// Lines of label, separator, value and unit, in aligned columns. When a value is a float, values
 /// align on their decimal point in HTML. Labels and units are HTML, not escaped; a text value is.

@@ -8,9 +8,13 @@
 class VORKTRReportingBuffer;
 
 /// Base of all report items. An item renders itself as HTML into an open page and as text for a
-/// fixed page of 80 columns. Items are made with new and handed to a report, bag, list or table,
-/// which owns them from then on. An application may derive its own: GetType, Report, ASCIIReport
-/// and GetWidthInChar are what it usually overrides.
+/// fixed page of 80 columns. An application may derive its own: GetType, Report, ASCIIReport and
+/// GetWidthInChar are what it usually overrides.
+///
+/// Items are made with new and handed to a report, bag, list or table, which owns them from the
+/// call on, also when the call throws: the item is then destroyed and its new owner as it was. An
+/// item refused with a negative status stays the caller's. Items may be nested 2,000 deep on a
+/// stack of 8 MB.
 ///
 /// The rendering operations share these arguments: iFile, the page being written (VORFWrite);
 /// iPath, the report directory in UTF-8; iFrames, 1 when the site has a navigation frame, else 0;

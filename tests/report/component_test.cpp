@@ -160,8 +160,14 @@ TEST_F(ComponentTest, AHandleTakesItsInterfaceAlone)
 {
     VORIKTRReporting component;
     VORBaseUnknown stranger;
-    EXPECT_EQ(VORIKTRReporting_var().__CastTo(&component), &component);
-    EXPECT_EQ(VORIKTRReporting_var().__CastTo(&stranger), nullptr);
+    {
+        VORIKTRReporting_var handle;
+        EXPECT_EQ(handle.__CastTo(&component), &component);
+        VORIKTRReporting* const held = handle;
+        EXPECT_TRUE(held == &component && handle->AddRef() == 3 && held->Release() == 2);
+        EXPECT_EQ(handle.__CastTo(&stranger), nullptr);
+        EXPECT_FALSE(handle);
+    }
     EXPECT_EQ(component.AddRef(), 2u); // handles have let go
 }
 

@@ -1,5 +1,6 @@
 #include <clocale>
 #include <cmath>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -54,6 +55,36 @@ TEST_F(ItemsTest, KeepTheirPositionsInAReport)
         EXPECT_EQ(report.GetObjectIndex(item, index), 0);
         EXPECT_EQ(index, place);
     }
+}
+
+TEST_F(ItemsTest, AnItemHandedOverIsOwnedAlsoWhenTheCallThrows)
+{
+    struct Refusing : Probe {
+        void SetBuffer(VORKTRReportingBuffer*) override { throw std::runtime_error("refused"); }
+    };
+    auto* const bag = Bag({new Probe, new Probe, new Probe, new Probe, new Probe});
+    Add({bag, new Probe, new Probe, new Probe, new Probe});
+    EXPECT_THROW(report.AddObject(new Refusing), std::runtime_error);
+    EXPECT_THROW(report.InsertObjectAtIndex(new Refusing, 0), std::runtime_error);
+    EXPECT_THROW(bag->AddObject(new Refusing), std::runtime_error);
+    EXPECT_EQ(Probe::Destroyed, 3);
+    EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(5, 5));
+    EXPECT_EQ(Counts(bag->GetObjectNumber(), bag->GetAllocatedNumber()), Counts(5, 5));
+}
+
+TEST_F(ItemsTest, AnItemMayBringAnother)
+{
+    struct Leading : Probe {
+        void SetBuffer(VORKTRReportingBuffer* iBuffer) override { iBuffer->AddObject(first); }
+        Probe* first = new Probe;
+    };
+    Add({new Probe, new Probe, new Probe, new Probe});
+    auto* const second = new Leading;
+    Add({second});
+    EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(6, 10));
+    int index = 0;
+    EXPECT_EQ(report.GetObjectIndex(second->first, index), 0);
+    EXPECT_EQ(index, 4);
 }
 
 TEST_F(ItemsTest, ABagStandsForItsChildren)

@@ -6,9 +6,8 @@
 // Base of the source paths that fatal errors name.
 #define VORKTR_SOURCE_PATH "VORAnalysisReportInterfaces/VORRuxReportImpl.m/src/"
 
-/// Ends in the platform's fatal error when a field that must be set is null. iPlace numbers the
-/// check within its source: hosts find it again in their logs, so that it does not move with the
-/// code.
+/// Ends in the platform's fatal error when a field that must be set is null. iPlace is the check's
+/// number within its source, fixed so that it does not move with the code.
 inline void AssertField(const void* iField, const char* iKey, const char* iSource, int iPlace)
 {
     if (!iField)

@@ -2,7 +2,7 @@
 #define VORKTRItems_h
 
 #include "VORKTRReportingTitle.h"
-#include "VORKTRSteppedArray.h"
+#include "detail/VORKTRSteppedArray.h"
 
 /// Calls iVisit with each item in order. Positions emptied by a removal are skipped; items that are
 /// added on the way are visited too.

@@ -1,6 +1,7 @@
 #include "VORKTRReportingBag.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "VORKTRItems.h"
 
@@ -59,9 +60,10 @@ void VORKTRReportingBag::AddObject(VORKTRReportingObj* iObject)
 {
     if (!iObject)
         return;
-    Reallocate();
-    iObject->SetBuffer(_Buffer);
-    _ObjectList.Append(std::unique_ptr<VORKTRReportingObj>(iObject));
+    std::unique_ptr<VORKTRReportingObj> child(iObject);
+    const VORKTRItemArray::Room room(_ObjectList);
+    child->SetBuffer(_Buffer);
+    _ObjectList.Append(std::move(child));
 }
 
 int VORKTRReportingBag::GetNbTitles(int iOrder)

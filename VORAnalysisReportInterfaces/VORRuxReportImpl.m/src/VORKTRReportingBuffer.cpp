@@ -58,7 +58,7 @@ VORKTRReportingBuffer::~VORKTRReportingBuffer()
     for (int i = 0; i < _ObjectList.GetSize(); ++i)
         _ObjectList[i].reset();
     ClosePages();
-    // No effect here; a platform's own string class may count on it as a report's last call.
+    // No effect here; a platform's own string class may count on it when a report ends.
     VORUnicodeString().BuildFromNum(100, "%#x");
 }
 
@@ -66,8 +66,10 @@ int VORKTRReportingBuffer::AddObject(VORKTRReportingObj* iObject)
 {
     if (!iObject)
         return VOR_E_FAIL;
-    Adopt(*iObject);
-    _ObjectList.Append(std::unique_ptr<VORKTRReportingObj>(iObject));
+    std::unique_ptr<VORKTRReportingObj> item(iObject);
+    const VORKTRItemArray::Room room(_ObjectList);
+    Adopt(*item);
+    _ObjectList.Append(std::move(item));
     return VOR_S_OK;
 }
 
@@ -75,14 +77,15 @@ int VORKTRReportingBuffer::InsertObjectAtIndex(VORKTRReportingObj* iObject, int 
 {
     if (!iObject || !_ObjectList.Holds(iIndex))
         return VOR_E_FAIL;
-    Adopt(*iObject);
-    _ObjectList.Insert(iIndex, std::unique_ptr<VORKTRReportingObj>(iObject));
+    std::unique_ptr<VORKTRReportingObj> item(iObject);
+    const VORKTRItemArray::Room room(_ObjectList);
+    Adopt(*item);
+    _ObjectList.Insert(iIndex, std::move(item));
     return VOR_S_OK;
 }
 
 void VORKTRReportingBuffer::Adopt(VORKTRReportingObj& ioItem)
 {
-    Reallocate();
     ioItem.SetBuffer(this);
     if (_PathSent)
         ioItem.SetBufferData(_Path);
@@ -123,8 +126,9 @@ VORUnicodeString* VORKTRReportingBuffer::Keep(const VORUnicodeString& iText)
 int VORKTRReportingBuffer::MakeReport(const VORUnicodeString& iDirectory,
                                       const VORUnicodeString& iTitle)
 {
-    _Path = Keep(iDirectory);
+    VORUnicodeString* const path = Keep(iDirectory);
     _Title = Keep(iTitle);
+    _Path = path;
     if (!EnsureDirectory(*_Path))
         return VOR_E_FAIL;
     _Frames = FramesExist() != 0;

@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <cstring>
-#include <string_view>
 
 #include "VOREnvironment.h"
 #include "VORFile.h"
@@ -135,7 +134,8 @@ void VORKTRReportingFile::Report(unsigned int iFile, const char*, unsigned char,
     const VORUnicodeString caption = VORMsgCatalog::BuildMessage(
         "VORKTRReportingMessages", "Figure_Number", nullptr, 0, "Figure ");
     switch (_Type) {
-    case VORKTRReportingImage: // browsers get the tags in this order
+    case VORKTRReportingImage:
+        // The </p> and the last <CENTER>, where </CENTER> would be expected, are intended.
         WriteFragment(iFile, "<CENTER><IMG SRC=\"", _FilePath, "\" BORDER=0></CENTER></p><CENTER>",
                       caption, Decimal(number), "<CENTER></p>\n");
         break;
@@ -152,7 +152,7 @@ void VORKTRReportingFile::Report(unsigned int iFile, const char*, unsigned char,
     WriteFragment(iFile, "</P>\n");
 }
 
-void VORKTRReportingFile::WriteEmbed(unsigned int iFile, std::string_view iAttributes) const
+void VORKTRReportingFile::WriteEmbed(unsigned int iFile, const char* iAttributes) const
 {
     WriteFragment(iFile, "<CENTER><EMBED SRC=\"", _FilePath, "\"", iAttributes,
                   "></EMBED></CENTER>");

@@ -21,7 +21,6 @@ int VORKTRReportingList::Store(const VORUnicodeString& iLabel,
                                std::unique_ptr<VORKTRReportingObj> ioValue,
                                const VORUnicodeString& iUnit)
 {
-    Reallocate();
     _Lines.Append({iLabel, std::move(ioValue), iUnit});
     return 0;
 }

@@ -45,22 +45,28 @@ VORUnicodeString Indented(const VORUnicodeString& iTitle, int iBlanks)
     return Repeat(' ', iBlanks).Append(iTitle).Append("\n");
 }
 
-VORUnicodeString Block(const VORUnicodeString& iTitle, int iOrder)
+// The heading itself, drawn by its level.
+VORUnicodeString Drawn(const VORUnicodeString& iTitle, int iOrder)
 {
     switch (iOrder) {
     case 1:
-        return "\n\n" + Boxed(iTitle);
+        return Boxed(iTitle);
     case 2:
-        return "\n\n" + Underlined(iTitle, '=');
+        return Underlined(iTitle, '=');
     case 3:
-        return "\n" + Underlined(iTitle, '-');
+        return Underlined(iTitle, '-');
     case 4:
-        return "\n" + Centered(iTitle);
+        return Centered(iTitle);
     case 5:
-        return "\n" + Indented(iTitle, 4);
+        return Indented(iTitle, 4);
     default:
-        return "\n" + Indented(iTitle, 7);
+        return Indented(iTitle, 7);
     }
+}
+
+VORUnicodeString Block(const VORUnicodeString& iTitle, int iOrder)
+{
+    return (iOrder <= 2 ? "\n\n" : "\n") + Drawn(iTitle, iOrder) + "\n";
 }
 
 } // namespace
@@ -129,7 +135,7 @@ int VORKTRReportingTitle::NewPage(const VORUnicodeString* iTitle, unsigned int& 
 void VORKTRReportingTitle::ASCIIReport(VORUnicodeString& ioText) const
 {
     AssertField(_Title.get(), TitleAssertion, Source, 233);
-    ioText.Append(Block(*_Title, _Order) + "\n");
+    ioText.Append(Block(*_Title, _Order));
 }
 
 int VORKTRReportingTitle::GetWidthInChar() const
