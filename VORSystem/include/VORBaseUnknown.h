@@ -14,7 +14,7 @@ class VORSYSTEM_EXPORT IUnknown
 {
 public:
     /// On success oInterface is the object as the interface iId, with one reference added; else
-    /// null and VOR_E_NOINTERFACE.
+    /// null and VOR_E_NOINTERFACE. A null oInterface is refused with VOR_E_INVALIDARG.
     virtual VORStatus QueryInterface(const GUID& iId, void** oInterface) = 0;
     /// Adds one reference. Returns the count.
     virtual unsigned int AddRef() = 0;

@@ -5,7 +5,6 @@
 /// Paths, directories and the search along path lists.
 
 #include <cstddef>
-#include <filesystem>
 
 #include "VORStatus.h"
 #include "VORSystemExport.h"
@@ -37,12 +36,13 @@ VORSYSTEM_EXPORT VORStatus VORFindPath(const char* iName, const char* iList,
 
 /// An open directory.
 struct VORDIR {
-    std::filesystem::directory_iterator entries; ///< At its first entry; the end once closed.
+    void* handle = nullptr; ///< The system's; null while closed.
 };
 
-/// Opens an existing directory; negative when it is absent or cannot be read.
+/// Opens an existing directory, to be closed again; negative when it is absent or cannot be read,
+/// VOR_E_INVALIDARG for null.
 VORSYSTEM_EXPORT VORStatus VOROpenDirectory(const VORUnicodeString& iPath, VORDIR* oDirectory);
-/// Closes it again.
+/// Closes it again. One that is not open is refused with VOR_E_INVALIDARG, null too.
 VORSYSTEM_EXPORT VORStatus VORCloseDirectory(VORDIR* ioDirectory);
 
 /// Creates one directory; its parent must exist. Negative when anything of that name exists

@@ -24,6 +24,8 @@ const char* VORBaseUnknown::ClassName()
 
 VORStatus VORBaseUnknown::QueryInterface(const GUID& iId, void** oInterface)
 {
+    if (!oInterface)
+        return VOR_E_INVALIDARG;
     const bool granted = iId == IID_IUnknown || GetMetaObject()->IsAKindOf(iId);
     *oInterface = granted ? this : nullptr;
     if (!granted)

@@ -1,34 +1,53 @@
 #include "VORComponent.h"
 
 #include <map>
+#include <mutex>
 #include <string>
 
 namespace
 {
 
-using FactoryMap = std::map<std::string, VORComponentFactory>;
+struct Registry {
+    std::mutex mutex;
+    std::map<std::string, VORComponentFactory, std::less<>> factories;
+};
 
-FactoryMap& Factories()
+Registry& Components()
 {
-    static FactoryMap factories;
-    return factories;
+    static Registry registry;
+    return registry;
+}
+
+// Null for a name without a factory.
+VORComponentFactory FactoryOf(const char* iName)
+{
+    Registry& registry = Components();
+    const std::lock_guard<std::mutex> lock(registry.mutex);
+    const auto found = registry.factories.find(iName);
+    return found == registry.factories.end() ? nullptr : found->second;
 }
 
 } // namespace
 
 void VORRegisterComponent(const char* iName, VORComponentFactory iFactory)
 {
+    if (!iName)
+        return;
+    Registry& registry = Components();
+    const std::lock_guard<std::mutex> lock(registry.mutex);
     if (iFactory)
-        Factories()[iName] = iFactory;
+        registry.factories[iName] = iFactory;
     else
-        Factories().erase(iName);
+        registry.factories.erase(iName);
 }
 
 VORStatus VORInstantiateComponent(const char* iName, const GUID& iId, void** oInterface)
 {
+    if (!oInterface)
+        return VOR_E_INVALIDARG;
     *oInterface = nullptr;
-    const auto found = Factories().find(iName);
-    VORBaseUnknown* const component = found == Factories().end() ? nullptr : found->second();
+    const VORComponentFactory factory = iName ? FactoryOf(iName) : nullptr;
+    VORBaseUnknown* const component = factory ? factory() : nullptr;
     if (!component)
         return VOR_E_FAIL;
     const VORStatus status = component->QueryInterface(iId, oInterface);

@@ -1,6 +1,7 @@
 #include "VORDictionary.h"
 
 #include <algorithm>
+#include <mutex>
 #include <vector>
 
 namespace
@@ -12,28 +13,34 @@ struct Entry {
     VORMetaClass* object;
 };
 
+struct Dictionary {
+    std::mutex mutex;
+    std::vector<Entry> entries;
+};
+
 // Built on first use: the static objects that fill it may be constructed in any order.
-std::vector<Entry>& Entries()
+Dictionary& TheDictionary()
 {
-    static std::vector<Entry> entries;
-    return entries;
+    static Dictionary dictionary;
+    return dictionary;
 }
 
-Entry* Find(const GUID& iClass, const GUID& iKind)
+Entry* Find(std::vector<Entry>& ioEntries, const GUID& iClass, const GUID& iKind)
 {
-    auto& entries = Entries();
-    const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
+    const auto found = std::find_if(ioEntries.begin(), ioEntries.end(), [&](const Entry& entry) {
         return entry.classId == iClass && entry.kind == iKind;
     });
-    return found == entries.end() ? nullptr : &*found;
+    return found == ioEntries.end() ? nullptr : &*found;
 }
 
 void Enter(const GUID& iClass, const GUID& iKind, VORMetaClass* iObject)
 {
-    if (Entry* const entry = Find(iClass, iKind))
+    Dictionary& dictionary = TheDictionary();
+    const std::lock_guard<std::mutex> lock(dictionary.mutex);
+    if (Entry* const entry = Find(dictionary.entries, iClass, iKind))
         entry->object = iObject;
     else
-        Entries().push_back({iClass, iKind, iObject});
+        dictionary.entries.push_back({iClass, iKind, iObject});
 }
 
 } // namespace
@@ -52,6 +59,8 @@ VORFillDictionary::VORFillDictionary(const GUID& iClass, const GUID& iKind, VORM
 
 VORMetaClass* VORFindInDictionary(const GUID& iClass)
 {
-    const Entry* const entry = Find(iClass, CLSID_VORMetaClass);
+    Dictionary& dictionary = TheDictionary();
+    const std::lock_guard<std::mutex> lock(dictionary.mutex);
+    const Entry* const entry = Find(dictionary.entries, iClass, CLSID_VORMetaClass);
     return entry ? entry->object : nullptr;
 }

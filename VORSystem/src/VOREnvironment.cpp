@@ -1,11 +1,12 @@
 #include "VOREnvironment.h"
 
 #include <chrono>
-#include <cstdlib>
+
+#include "VORSystemLayer.h"
 
 const char* VORGetEnv(const char* iName)
 {
-    return std::getenv(iName);
+    return iName ? VORLayer::GetEnv(iName) : nullptr;
 }
 
 void VORGetCurrentTime(unsigned long* oSeconds, unsigned long* oMicroseconds)
@@ -16,4 +17,9 @@ void VORGetCurrentTime(unsigned long* oSeconds, unsigned long* oMicroseconds)
         *oSeconds = static_cast<unsigned long>(now / 1000000);
     if (oMicroseconds)
         *oMicroseconds = static_cast<unsigned long>(now % 1000000);
+}
+
+int VORRunCommand(const VORUnicodeString& iCommand)
+{
+    return VORLayer::RunCommand(iCommand.ConvertToChar());
 }

@@ -1,133 +1,80 @@
 #include "VORFile.h"
 
-#include <cstdio>
+#include <atomic>
 #include <cstring>
-#include <filesystem>
-#include <memory>
 #include <string>
-#include <unistd.h>
-#include <vector>
+#include <utility>
 
-#include "VORSystemStatus.h"
-
-namespace fs = std::filesystem;
+#include "VORFileTable.h"
+#include "VORSystemLayer.h"
 
 namespace
 {
 
-constexpr std::size_t BufferSize = std::size_t{64} * 1024;
-
-/// One file open for writing, with a buffer of its own so that a small write is a copy and a
-/// failure of the system is seen where it happens.
-class OutputFile
+/// A file of the system, closed at its end unless somebody has taken it.
+class SystemFile
 {
 public:
-    explicit OutputFile(std::FILE* iStream) : _Stream(iStream), _Buffer(new char[BufferSize])
-    {
-        std::setvbuf(_Stream, nullptr, _IONBF, 0);
-    }
-    OutputFile(const OutputFile&) = delete;
-    OutputFile& operator=(const OutputFile&) = delete;
-    ~OutputFile() { Close(); }
+    SystemFile() = default;
+    SystemFile(const SystemFile&) = delete;
+    SystemFile& operator=(const SystemFile&) = delete;
+    ~SystemFile() { Close(); }
 
-    VORStatus Write(const void* iBytes, std::size_t iLength)
-    {
-        if (iLength > BufferSize - _Used)
-            Flush();
-        if (iLength > BufferSize) {
-            Send(iBytes, iLength);
-        } else if (iLength > 0) {
-            std::memcpy(_Buffer.get() + _Used, iBytes, iLength);
-            _Used += iLength;
-        }
-        return _Status;
-    }
+    VORStatus OpenToRead(const char* iPath) { return VORLayer::OpenToRead(iPath, _File); }
+    VORStatus OpenToWrite(const char* iPath) { return VORLayer::OpenToWrite(iPath, _File); }
+    VORLayer::File Get() const { return _File; }
+    VORLayer::File Release() { return std::exchange(_File, VORLayer::NoFile); }
 
-    VORStatus Close()
-    {
-        if (_Stream) {
-            Flush();
-            if (std::fclose(_Stream) != 0 && _Status == VOR_S_OK)
-                _Status = VORStatusFromErrno(errno);
-            _Stream = nullptr;
-        }
-        return _Status;
-    }
+    VORStatus Close() { return _File == VORLayer::NoFile ? VOR_S_OK : VORLayer::Close(Release()); }
 
 private:
-    void Flush()
-    {
-        Send(_Buffer.get(), _Used);
-        _Used = 0;
-    }
-
-    // After a failure nothing more is sent: a file with a hole in its middle helps nobody.
-    void Send(const void* iBytes, std::size_t iLength)
-    {
-        if (_Status == VOR_S_OK && std::fwrite(iBytes, 1, iLength, _Stream) != iLength)
-            _Status = VORStatusFromErrno(errno);
-    }
-
-    std::FILE* _Stream;
-    std::unique_ptr<char[]> _Buffer;
-    std::size_t _Used = 0;
-    VORStatus _Status = VOR_S_OK;
+    VORLayer::File _File = VORLayer::NoFile;
 };
 
-/// The open files, by handle. Free handles are kept last-in first-out.
-class FileTable
+VOROutputFile* FindOpen(unsigned int iFile)
 {
-public:
-    unsigned int Add(std::unique_ptr<OutputFile> ioFile)
-    {
-        if (_FreeHandles.empty()) {
-            _Files.push_back(std::move(ioFile));
-            return static_cast<unsigned int>(_Files.size());
-        }
-        const unsigned int handle = _FreeHandles.back();
-        _FreeHandles.pop_back();
-        _Files[handle - 1] = std::move(ioFile);
-        return handle;
-    }
-
-    OutputFile* Find(unsigned int iFile) const
-    {
-        return iFile > 0 && iFile <= _Files.size() ? _Files[iFile - 1].get() : nullptr;
-    }
-
-    void Remove(unsigned int iFile)
-    {
-        _Files[iFile - 1].reset();
-        _FreeHandles.push_back(iFile);
-    }
-
-private:
-    std::vector<std::unique_ptr<OutputFile>> _Files;
-    std::vector<unsigned int> _FreeHandles;
-};
-
-// Built when this library is loaded, hence before and destroyed after every object of its clients.
-FileTable Table;
-
-fs::path Path(const VORUnicodeString& iPath)
-{
-    return fs::u8path(iPath.ConvertToChar());
+    VOROutputFile* const file = VORFileTable::PlaceOf(iFile);
+    return file && file->IsOpen() ? file : nullptr;
 }
 
-VORStatus CopyBytes(const fs::path& iSource, const fs::path& iTarget)
+VORStatus CopyBytes(VORLayer::File iSource, VORLayer::File iTarget)
 {
-    // Under another name first, so that the target is never seen half-made.
-    fs::path partial = iTarget;
-    partial += ".part" + std::to_string(::getpid());
-    std::error_code error;
-    fs::copy_file(iSource, partial, fs::copy_options::overwrite_existing, error);
-    if (!error)
-        fs::rename(partial, iTarget, error);
-    if (error) {
-        std::error_code ignored;
-        fs::remove(partial, ignored);
+    char block[16 * 1024];
+    for (;;) {
+        std::size_t length = 0;
+        const VORStatus read = VORLayer::Read(iSource, block, sizeof block, length);
+        if (read < 0 || length == 0)
+            return read;
+        const VORStatus written = VORLayer::Write(iTarget, block, length);
+        if (written < 0)
+            return written;
     }
-    return VORStatusFromError(error);
+}
+
+VORStatus CopyFile(const char* iSource, const char* iTarget)
+{
+    SystemFile source;
+    SystemFile target;
+    VORStatus status = source.OpenToRead(iSource);
+    if (status >= 0)
+        status = target.OpenToWrite(iTarget);
+    if (status >= 0)
+        status = CopyBytes(source.Get(), target.Get());
+    const VORStatus closed = target.Close();
+    return status < 0 ? status : closed;
+}
+
+bool IsSpecial(VORFileKind iKind)
+{
+    return iKind == VORDirectory || iKind == VOROtherFile;
+}
+
+// No other copy of any process is made under the same name.
+std::string PartialName(const VORUnicodeString& iTarget)
+{
+    static std::atomic<unsigned int> count{0};
+    return iTarget.ConvertToChar() + (".part" + std::to_string(VORLayer::ProcessId())) + '.' +
+           std::to_string(++count);
 }
 
 } // namespace
@@ -137,65 +84,120 @@ VORStatus VORFOpen(const VORUnicodeString& iPath, const char* iMode, unsigned in
     oFile = 0;
     if (!iMode || std::strcmp(iMode, "w") != 0)
         return VOR_E_INVALIDARG;
-    std::FILE* const stream = std::fopen(iPath.ConvertToChar(), "wb");
-    if (!stream)
-        return VORStatusFromErrno(errno);
-    oFile = Table.Add(std::make_unique<OutputFile>(stream));
+    SystemFile file;
+    const VORStatus status = file.OpenToWrite(iPath.ConvertToChar());
+    if (status < 0)
+        return status;
+    const unsigned int handle = VORFileTable::Take();
+    if (handle == 0)
+        return VOR_E_TOO_MANY_FILES;
+    VOROutputFile& place = *VORFileTable::PlaceOf(handle);
+    if (!place.HasBuffer()) {
+        VORFileTable::Free(handle);
+        return VOR_E_OUT_OF_MEMORY;
+    }
+    place.Open(file.Release(), VOR_S_OK);
+    oFile = handle;
+    return VOR_S_OK;
+}
+
+VORStatus VORFReserve(unsigned int& oFile, VORStatus iStatus) noexcept
+{
+    oFile = iStatus < 0 ? VORFileTable::Take() : 0;
+    if (iStatus >= 0)
+        return VOR_E_INVALIDARG;
+    if (oFile == 0)
+        return VOR_E_TOO_MANY_FILES;
+    VORFileTable::PlaceOf(oFile)->Open(VORLayer::NoFile, iStatus);
     return VOR_S_OK;
 }
 
 VORStatus VORFWrite(unsigned int iFile, const void* iBytes, std::size_t iLength,
-                    std::size_t* oWritten)
+                    std::size_t* oWritten) noexcept
 {
-    OutputFile* const file = Table.Find(iFile);
-    const VORStatus status = file ? file->Write(iBytes, iLength) : VOR_E_INVALID_HANDLE;
     if (oWritten)
-        *oWritten = status < 0 ? 0 : iLength;
+        *oWritten = 0;
+    if (!iBytes && iLength > 0)
+        return VOR_E_INVALIDARG;
+    VOROutputFile* const file = FindOpen(iFile);
+    const VORStatus status = file ? file->Write(iBytes, iLength) : VOR_E_INVALID_HANDLE;
+    if (oWritten && status >= 0)
+        *oWritten = iLength;
     return status;
 }
 
-VORStatus VORFClose(unsigned int iFile)
+VORStatus VORFClose(unsigned int iFile) noexcept
 {
-    OutputFile* const file = Table.Find(iFile);
+    VOROutputFile* const file = FindOpen(iFile);
     if (!file)
         return VOR_E_INVALID_HANDLE;
     const VORStatus status = file->Close();
-    Table.Remove(iFile);
+    VORFileTable::Free(iFile);
     return status;
 }
 
 VORStatus VORFCopy(const VORUnicodeString& iSource, const VORUnicodeString& iTarget, int iReplace)
 {
-    if (VORIsSameFile(iSource, iTarget))
+    const char* const source = iSource.ConvertToChar();
+    const char* const target = iTarget.ConvertToChar();
+    if (VORLayer::IsSameFile(source, target))
         return VOR_S_OK;
-    std::error_code error;
-    const fs::file_status target = fs::status(Path(iTarget), error);
     // Nothing but a file is replaced: a rename would put an end to a device, too.
-    if (fs::exists(target) && !fs::is_regular_file(target))
+    const VORFileKind kind = VORLayer::KindOf(target);
+    if (IsSpecial(VORLayer::KindOf(source)) || IsSpecial(kind))
         return VOR_E_ACCESS_DENIED;
-    if (fs::exists(target) && !iReplace)
+    if (kind != VORNoFile && !iReplace)
         return VOR_E_FILE_EXISTS;
-    return CopyBytes(Path(iSource), Path(iTarget));
+    // Under another name first, so that the target is never seen half-made.
+    const std::string partial = PartialName(iTarget);
+    VORStatus status = CopyFile(source, partial.c_str());
+    if (status >= 0)
+        status = VORLayer::Rename(partial.c_str(), target);
+    if (status < 0)
+        VORLayer::Delete(partial.c_str());
+    return status;
+}
+
+VORStatus VORFTransfer(const VORUnicodeString& iSource, const VORUnicodeString& iTarget,
+                       VORStatus& oArrival)
+{
+    SystemFile source;
+    SystemFile target;
+    oArrival = source.OpenToRead(iSource.ConvertToChar());
+    if (oArrival >= 0)
+        oArrival = target.OpenToWrite(iTarget.ConvertToChar());
+    if (oArrival < 0)
+        return oArrival;
+    oArrival = CopyBytes(source.Get(), target.Get());
+    if (oArrival >= 0)
+        oArrival = VORLayer::Sync(target.Get(), iTarget.ConvertToChar());
+    const VORStatus closed = target.Close();
+    if (oArrival >= 0)
+        oArrival = closed;
+    return VOR_S_OK;
 }
 
 VORStatus VORFileAccess(const VORUnicodeString& iPath, int iMode, int)
 {
-    return ::access(iPath.ConvertToChar(), iMode) == 0 ? VOR_S_OK : VORStatusFromErrno(errno);
+    return VORLayer::Access(iPath.ConvertToChar(), iMode);
 }
 
 VORStatus VORDeleteFile(const VORUnicodeString& iPath)
 {
-    return ::unlink(iPath.ConvertToChar()) == 0 ? VOR_S_OK : VORStatusFromErrno(errno);
+    return VORLayer::Delete(iPath.ConvertToChar());
 }
 
 VORStatus VORRenameFile(const VORUnicodeString& iFrom, const VORUnicodeString& iTo)
 {
-    return std::rename(iFrom.ConvertToChar(), iTo.ConvertToChar()) == 0 ? VOR_S_OK
-                                                                        : VORStatusFromErrno(errno);
+    return VORLayer::Rename(iFrom.ConvertToChar(), iTo.ConvertToChar());
 }
 
-bool VORIsSameFile(const VORUnicodeString& iLeft, const VORUnicodeString& iRight)
+VORFileKind VORGetFileKind(const VORUnicodeString& iPath)
 {
-    std::error_code error;
-    return fs::equivalent(Path(iLeft), Path(iRight), error) && !error;
+    return VORLayer::KindOf(iPath.ConvertToChar());
+}
+
+bool VORIsSameEntry(const VORUnicodeString& iLeft, const VORUnicodeString& iRight)
+{
+    return VORLayer::IsSameEntry(iLeft.ConvertToChar(), iRight.ConvertToChar());
 }

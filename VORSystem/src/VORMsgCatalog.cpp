@@ -1,18 +1,30 @@
 #include "VORMsgCatalog.h"
 
 #include <map>
+#include <mutex>
 #include <string>
 #include <utility>
 
 namespace
 {
 
-using MessageMap = std::map<std::pair<std::string, std::string>, VORUnicodeString>;
+struct Catalogs {
+    std::mutex mutex;
+    std::map<std::pair<std::string, std::string>, VORUnicodeString> texts;
+};
 
-MessageMap& Messages()
+Catalogs& Registered()
 {
-    static MessageMap messages;
-    return messages;
+    static Catalogs catalogs;
+    return catalogs;
+}
+
+VORUnicodeString TextOf(const char* iCatalog, const char* iKey, const VORUnicodeString& iDefault)
+{
+    Catalogs& catalogs = Registered();
+    const std::lock_guard<std::mutex> lock(catalogs.mutex);
+    const auto found = catalogs.texts.find({iCatalog, iKey});
+    return found == catalogs.texts.end() ? iDefault : found->second;
 }
 
 // Index of the parameter that a placeholder at iText stands for, -1 when there is none.
@@ -44,14 +56,17 @@ std::string Fill(const char* iText, const VORUnicodeString* iParameters, int iCo
 void VORMsgCatalog::RegisterMessage(const char* iCatalog, const char* iKey,
                                     const VORUnicodeString& iText)
 {
-    Messages()[{iCatalog, iKey}] = iText;
+    if (!iCatalog || !iKey)
+        return;
+    Catalogs& catalogs = Registered();
+    const std::lock_guard<std::mutex> lock(catalogs.mutex);
+    catalogs.texts[{iCatalog, iKey}] = iText;
 }
 
 VORUnicodeString VORMsgCatalog::BuildMessage(const char* iCatalog, const char* iKey,
                                              const VORUnicodeString* iParameters, int iCount,
                                              const VORUnicodeString& iDefault)
 {
-    const auto found = Messages().find({iCatalog, iKey});
-    const VORUnicodeString& text = found == Messages().end() ? iDefault : found->second;
-    return Fill(text.ConvertToChar(), iParameters, iCount).c_str();
+    const VORUnicodeString text = iCatalog && iKey ? TextOf(iCatalog, iKey, iDefault) : iDefault;
+    return Fill(text.ConvertToChar(), iParameters, iParameters ? iCount : 0).c_str();
 }

@@ -7,9 +7,10 @@
 #include <cstdio>
 #include <cstring>
 #include <iterator>
-#include <locale.h>
 #include <string>
 #include <string_view>
+
+#include "VORSystemLayer.h"
 
 namespace
 {
@@ -196,25 +197,6 @@ void PutPadded(Output& ioOutput, const Format& iFormat, std::string_view iNumber
         ioOutput.Put(' ', padding);
 }
 
-// The calling thread under the numeric locale "C"; other threads keep theirs.
-class NumericCLocale
-{
-public:
-    NumericCLocale() : _Previous(uselocale(CLocale())) {}
-    ~NumericCLocale() { uselocale(_Previous); }
-    NumericCLocale(const NumericCLocale&) = delete;
-    NumericCLocale& operator=(const NumericCLocale&) = delete;
-
-private:
-    static locale_t CLocale()
-    {
-        static const locale_t locale = newlocale(LC_NUMERIC_MASK, "C", nullptr);
-        return locale;
-    }
-
-    locale_t _Previous;
-};
-
 // Put together anew from what was checked, so that nothing else of the caller's reaches printf.
 std::string PrintfConversion(const Format& iFormat)
 {
@@ -237,7 +219,7 @@ std::string PrintfConversion(const Format& iFormat)
 template <typename Number>
 void PutPrintf(Output& ioOutput, const Format& iFormat, Number iValue)
 {
-    const NumericCLocale locale;
+    const VORLayer::NumericCLocale locale;
     const std::string conversion = PrintfConversion(iFormat);
     const int length = std::snprintf(nullptr, 0, conversion.c_str(), iValue);
     std::string text(static_cast<std::size_t>(length) + 1, '\0');

@@ -5,15 +5,11 @@
 #include <string_view>
 #include <utility>
 
-#include "VORSystemStatus.h"
-
-namespace fs = std::filesystem;
+#include "VORFile.h"
+#include "VORSystemLayer.h"
 
 namespace
 {
-
-constexpr char Separator = '/';
-constexpr char ListSeparator = ':';
 
 std::string_view Bytes(const VORUnicodeString& iText)
 {
@@ -22,19 +18,19 @@ std::string_view Bytes(const VORUnicodeString& iText)
 
 bool Join(std::string_view iDirectory, std::string_view iName, std::string& oPath)
 {
-    const std::size_t begin = iName.find_first_not_of(Separator);
+    const std::size_t begin = iName.find_first_not_of(VORLayer::Separators);
     if (iDirectory.empty() || begin == std::string_view::npos)
         return false;
-    const std::size_t end = iDirectory.find_last_not_of(Separator) + 1; // 0 for the root
+    const std::size_t end = iDirectory.find_last_not_of(VORLayer::Separators) + 1; // 0 for the root
     oPath = iDirectory.substr(0, end);
-    oPath += Separator;
+    oPath += VORLayer::Separators[0];
     oPath += iName.substr(begin);
     return true;
 }
 
 bool Split(std::string_view iPath, std::string_view& oDirectory, std::string_view& oName)
 {
-    const std::size_t cut = iPath.rfind(Separator);
+    const std::size_t cut = iPath.find_last_of(VORLayer::Separators);
     const bool isBare = cut == std::string_view::npos;
     const std::string_view name = isBare ? iPath : iPath.substr(cut + 1);
     if (name.empty())
@@ -56,9 +52,8 @@ void CopyOut(std::string_view iBytes, char* oText)
 
 bool IsFile(const VORUnicodeString& iPath)
 {
-    std::error_code error;
-    return fs::exists(fs::u8path(iPath.ConvertToChar()), error) &&
-           !fs::is_directory(fs::u8path(iPath.ConvertToChar()), error);
+    const VORFileKind kind = VORGetFileKind(iPath);
+    return kind != VORNoFile && kind != VORDirectory;
 }
 
 } // namespace
@@ -76,7 +71,7 @@ VORStatus VORMakePath(const VORUnicodeString& iDirectory, const VORUnicodeString
 VORStatus VORMakePath(const char* iDirectory, const char* iName, char* oPath, std::size_t iSize)
 {
     std::string path;
-    if (!iDirectory || !iName || !Join(iDirectory, iName, path) || path.size() >= iSize)
+    if (!iDirectory || !iName || !oPath || !Join(iDirectory, iName, path) || path.size() >= iSize)
         return VOR_E_INVALIDARG;
     CopyOut(path, oPath);
     return VOR_S_OK;
@@ -99,8 +94,8 @@ VORStatus VORSplitPath(const char* iPath, char* oDirectory, char* oName, std::si
 {
     std::string_view directory;
     std::string_view name;
-    if (!iPath || !Split(iPath, directory, name) || directory.size() >= iSize ||
-        name.size() >= iSize)
+    if (!iPath || !oDirectory || !oName || !Split(iPath, directory, name) ||
+        directory.size() >= iSize || name.size() >= iSize)
         return VOR_E_INVALIDARG;
     CopyOut(directory, oDirectory);
     CopyOut(name, oName);
@@ -111,7 +106,7 @@ VORStatus VORFindPath(const char* iName, const char* iList, VORUnicodeString& oP
 {
     std::string_view rest = iList ? iList : "";
     while (!rest.empty()) {
-        const std::string_view directory = rest.substr(0, rest.find(ListSeparator));
+        const std::string_view directory = rest.substr(0, rest.find(VORLayer::ListSeparator));
         rest.remove_prefix(std::min(rest.size(), directory.size() + 1));
         VORUnicodeString path;
         if (VORMakePath(Text(directory), iName, path) >= 0 && IsFile(path)) {
@@ -125,22 +120,18 @@ VORStatus VORFindPath(const char* iName, const char* iList, VORUnicodeString& oP
 
 VORStatus VOROpenDirectory(const VORUnicodeString& iPath, VORDIR* oDirectory)
 {
-    std::error_code error;
-    oDirectory->entries = fs::directory_iterator(fs::u8path(iPath.ConvertToChar()), error);
-    return VORStatusFromError(error);
+    return oDirectory ? VORLayer::OpenDirectory(iPath.ConvertToChar(), oDirectory->handle)
+                      : VOR_E_INVALIDARG;
 }
 
 VORStatus VORCloseDirectory(VORDIR* ioDirectory)
 {
-    ioDirectory->entries = fs::directory_iterator();
-    return VOR_S_OK;
+    if (!ioDirectory || !ioDirectory->handle)
+        return VOR_E_INVALIDARG;
+    return VORLayer::CloseDirectory(std::exchange(ioDirectory->handle, nullptr));
 }
 
 VORStatus VORCreateDirectory(const VORUnicodeString& iPath)
 {
-    std::error_code error;
-    const bool created = fs::create_directory(fs::u8path(iPath.ConvertToChar()), error);
-    if (error)
-        return VORStatusFromError(error);
-    return created ? VOR_S_OK : VOR_E_FILE_EXISTS;
+    return VORLayer::CreateDirectory(iPath.ConvertToChar());
 }

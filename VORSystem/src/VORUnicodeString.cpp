@@ -149,7 +149,7 @@ VORUnicodeString::VORUnicodeString(const char* iText)
 
 VORUnicodeString::VORUnicodeString(const char* iText, int iLength)
     : VORUnicodeString(iText && iLength > 0
-                           ? std::string(iText, strnlen(iText, static_cast<std::size_t>(iLength)))
+                           ? std::string(iText, std::find(iText, iText + iLength, '\0'))
                            : std::string())
 {
 }

@@ -1,6 +1,9 @@
 #include <cstring>
 #include <filesystem>
 #include <string>
+#include <thread>
+#include <utility>
+#include <vector>
 
 #include <sys/stat.h>
 
@@ -70,6 +73,102 @@ TEST(File, FailuresAreReported)
     EXPECT_LT(VORFOpen("/dev/full", "r", file), 0);
 }
 
+TEST(File, AReservedHandleSwallowsAllAndTellsWhy)
+{
+    const unsigned int closed = Open("/dev/null");
+    EXPECT_EQ(VORFClose(closed), VOR_S_OK);
+    unsigned int file = 9;
+    EXPECT_LT(VORFReserve(file, VOR_S_OK), 0);
+    EXPECT_EQ(file, 0u);
+    EXPECT_EQ(VORFReserve(file, VOR_E_ACCESS_DENIED), VOR_S_OK);
+    EXPECT_EQ(file, closed);
+    const unsigned int other = Open("/dev/null");
+    EXPECT_NE(other, file);
+    EXPECT_EQ(VORFWrite(file, "x", 1, nullptr), VOR_E_ACCESS_DENIED);
+    EXPECT_EQ(VORFClose(file), VOR_E_ACCESS_DENIED);
+    EXPECT_EQ(Open("/dev/null"), closed);
+    for (const unsigned int open : {closed, other})
+        EXPECT_EQ(VORFClose(open), VOR_S_OK);
+}
+
+TEST(File, ThreadsGetTheHandlesThatTheyFreed)
+{
+    const TemporaryDirectory directory;
+    const auto write = [&](const std::string& iName) {
+        unsigned int previous = 0;
+        for (int page = 0; page < 200; ++page) {
+            const std::string text = iName + std::to_string(page);
+            const unsigned int file = Open(directory.Path(text));
+            EXPECT_TRUE(previous == 0 || file == previous);
+            EXPECT_EQ(VORFWrite(file, text.data(), text.size(), nullptr), VOR_S_OK);
+            EXPECT_EQ(VORFClose(file), VOR_S_OK);
+            EXPECT_EQ(ReadFile(directory.Path(text)), text);
+            previous = file;
+        }
+    };
+    for (int round = 0; round < 2; ++round) {
+        std::vector<std::thread> threads;
+        for (const char* const name : {"a", "b", "c", "d"})
+            threads.emplace_back(write, name);
+        for (std::thread& thread : threads)
+            thread.join();
+    }
+    const unsigned int file = Open("/dev/null"); // of a thread that has ended
+    EXPECT_LE(file, 4u);
+    EXPECT_EQ(VORFClose(file), VOR_S_OK);
+}
+
+TEST(File, TransferTellsWhetherAllArrived)
+{
+    const TemporaryDirectory directory;
+    const std::string source = directory.Path("source"), target = directory.Path("target");
+    const std::string bytes(100000, 'x');
+    const auto transfer = [](const std::string& iFrom, const std::string& iTo,
+                             VORStatus& oArrival) {
+        return VORFTransfer(iFrom.c_str(), iTo.c_str(), oArrival);
+    };
+    VORStatus arrival = VOR_S_OK;
+    EXPECT_EQ(transfer(source, target, arrival), VOR_E_FILE_NOT_FOUND);
+    EXPECT_FALSE(std::filesystem::exists(target));
+    WriteFile(source, bytes);
+    EXPECT_EQ(transfer(source, target, arrival), VOR_S_OK);
+    EXPECT_EQ(arrival, VOR_S_OK);
+    EXPECT_EQ(ReadFile(target), bytes);
+    EXPECT_LT(transfer(source, target + "/none", arrival), 0);
+    EXPECT_EQ(transfer(source, "/dev/full", arrival), VOR_S_OK);
+    EXPECT_EQ(arrival, VOR_E_DISK_FULL);
+    EXPECT_EQ(transfer("/proc/self/mem", target, arrival), VOR_S_OK); // which cannot be read
+    EXPECT_LT(arrival, 0);
+}
+
+TEST(File, KindsAndEntriesAreToldApart)
+{
+    const TemporaryDirectory directory;
+    const auto path = [&](const char* iName) { return directory.Path(iName); };
+    WriteFile(path("file"), "");
+    std::filesystem::create_hard_link(path("file"), path("hard"));
+    std::filesystem::create_symlink("file", path("link"));
+    std::filesystem::create_symlink("none", path("dangling"));
+    std::filesystem::create_directory_symlink(".", path("loop"));
+    const std::pair<std::string, VORFileKind> cases[] = {
+        {path("file"), VORRegularFile}, {path("hard"), VORRegularFile},
+        {path("link"), VORLinkToFile},  {path("none"), VORNoFile},
+        {path("dangling"), VORNoFile},  {path("loop"), VORDirectory},
+        {"/dev/null", VOROtherFile},    {path("file/x"), VORNoFile}};
+    for (const auto& [name, kind] : cases)
+        EXPECT_EQ(VORGetFileKind(name.c_str()), kind) << name;
+    const auto isSameAsFile = [&](const std::string& iName) {
+        return VORIsSameEntry(path("file").c_str(), iName.c_str());
+    };
+    for (const char* const same : {"file", ".//file", "loop/file"})
+        EXPECT_TRUE(isSameAsFile(path(same))) << same;
+    for (const char* const other : {"hard", "link", "none"})
+        EXPECT_FALSE(isSameAsFile(path(other))) << other;
+    EXPECT_FALSE(VORIsSameEntry(path("none").c_str(), path("none").c_str()));
+    std::filesystem::current_path(directory.Path());
+    EXPECT_TRUE(isSameAsFile("file"));
+}
+
 TEST(File, CopyAndRenameReplaceFilesAlone)
 {
     const TemporaryDirectory directory;
@@ -92,6 +191,11 @@ TEST(File, CopyAndRenameReplaceFilesAlone)
     EXPECT_EQ(ReadFile(source), bytes);
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
     EXPECT_LT(copy(pipe, 1), 0);
+    EXPECT_LT(VORFCopy(pipe.c_str(), target.c_str(), 1), 0);
+    EXPECT_EQ(ReadFile(target), bytes);
+    std::filesystem::permissions(source, std::filesystem::perms::owner_read);
+    EXPECT_EQ(copy(target, 1), VOR_S_OK); // a new file's permissions, not those of the source
+    EXPECT_NE(std::filesystem::status(target).permissions(), std::filesystem::perms::owner_read);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.Path()), {}), 4);
     EXPECT_EQ(VORRenameFile(source.c_str(), target.c_str()), VOR_S_OK);
     EXPECT_LT(VORFileAccess(source.c_str(), 0, 0), 0);

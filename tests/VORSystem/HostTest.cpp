@@ -5,8 +5,11 @@
 
 #include "VORComponent.h"
 #include "VORDictionary.h"
+#include "VOREnvironment.h"
 #include "VORFatalError.h"
+#include "VORFile.h"
 #include "VORMsgCatalog.h"
+#include "VORPath.h"
 
 namespace
 {
@@ -42,6 +45,38 @@ TEST(Messages, RegisteredTextsComeBeforeTheDefault)
     EXPECT_TRUE(build("Catalog", "Key") == "Bild \u00E9");
     EXPECT_TRUE(build("Other", "Key") == "second:plots/p2.gif,plots/p2.gif /p3/p/");
     EXPECT_TRUE(build("Catalog", "Other") == build("Other", "Key"));
+}
+
+TEST(Status, SaysWhatHappened)
+{
+    EXPECT_STREQ(VORStatusText(VOR_S_OK), "success");
+    EXPECT_STREQ(VORStatusText(1), "success");
+    EXPECT_STREQ(VORStatusText(VOR_E_DISK_FULL), "disk full");
+    EXPECT_STREQ(VORStatusText(VOR_E_FILE_NOT_FOUND), "no such file or directory");
+    EXPECT_STREQ(VORStatusText(VOR_E_FAIL), VORStatusText(-5));
+}
+
+TEST(NullArguments, AreRefused)
+{
+    const GUID id = IID_IUnknown;
+    char text[8] = "";
+    VORUnicodeString path = "left alone";
+    EXPECT_EQ(VORGetEnv(nullptr), nullptr);
+    EXPECT_LT(VORFWrite(1, nullptr, 1, nullptr), 0);
+    EXPECT_LT(VORMakePath("a", "b", nullptr, 8), 0);
+    EXPECT_LT(VORSplitPath("a/b", nullptr, text, 8), 0);
+    EXPECT_LT(VORSplitPath("a/b", text, nullptr, 8), 0);
+    EXPECT_LT(VORFindPath(nullptr, "/", path), 0);
+    EXPECT_LT(VOROpenDirectory("/", nullptr), 0);
+    EXPECT_LT(VORCloseDirectory(nullptr), 0);
+    VORDIR closed;
+    EXPECT_LT(VORCloseDirectory(&closed), 0);
+    VORRegisterComponent(nullptr, nullptr);
+    EXPECT_LT(VORInstantiateComponent(nullptr, id, nullptr), 0);
+    VORMsgCatalog::RegisterMessage(nullptr, "key", "text");
+    VORMsgCatalog::RegisterMessage("catalog", nullptr, "text");
+    EXPECT_TRUE(VORMsgCatalog::BuildMessage(nullptr, nullptr, nullptr, 1, "/p1") == "/p1");
+    EXPECT_LT(VORBaseUnknown().QueryInterface(id, nullptr), 0);
 }
 
 const GUID InterfaceId = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};

@@ -1,7 +1,5 @@
 #include "VORKTRReportTools.h"
 
-#include <cstdlib>
-
 #include "VOREnvironment.h"
 #include "VORPath.h"
 
@@ -26,5 +24,5 @@ int VORKTRReportTools::StartBrowser(const VORUnicodeString& page, unsigned char)
     if (command == "")
         return -1;
     command.Append(" ").Append(page);
-    return std::system(command.CastToCharPtr());
+    return VORRunCommand(command);
 }

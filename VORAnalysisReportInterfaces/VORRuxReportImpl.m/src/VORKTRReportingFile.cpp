@@ -50,7 +50,7 @@ bool CopyAndDelete(const char* iSource, const char* iTarget)
 
 bool Move(const VORUnicodeString& iSource, const VORUnicodeString& iTarget)
 {
-    if (VORIsSameFile(iSource, iTarget))
+    if (VORIsSameEntry(iSource, iTarget))
         return true;
     VORDeleteFile(iTarget);
     return VORRenameFile(iSource, iTarget) == 0 ||

@@ -1,17 +1,14 @@
-#ifndef VORSystemStatus_h
-#define VORSystemStatus_h
+#ifndef Status_h
+#define Status_h
 
 #include <cerrno>
-#include <system_error>
 
 #include "VORStatus.h"
 
 /// The status that stands for a failure of the system.
-inline VORStatus VORStatusFromErrno(int iErrno)
+inline VORStatus StatusOf(int iErrno)
 {
     switch (iErrno) {
-    case 0:
-        return VOR_S_OK;
     case ENOENT:
     case ENOTDIR:
         return VOR_E_FILE_NOT_FOUND;
@@ -21,16 +18,25 @@ inline VORStatus VORStatusFromErrno(int iErrno)
         return VOR_E_ACCESS_DENIED;
     case EEXIST:
         return VOR_E_FILE_EXISTS;
+    case EMFILE:
+    case ENFILE:
+        return VOR_E_TOO_MANY_FILES;
+    case ENOMEM:
+        return VOR_E_OUT_OF_MEMORY;
     case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
         return VOR_E_DISK_FULL;
     default:
         return VOR_E_FAIL;
     }
 }
 
-inline VORStatus VORStatusFromError(const std::error_code& iError)
+/// The status of a call that gives a negative number when it fails.
+template <typename Result>
+VORStatus StatusOfCall(Result iResult)
 {
-    return VORStatusFromErrno(iError.value());
+    return iResult < 0 ? StatusOf(errno) : VOR_S_OK;
 }
 
 #endif

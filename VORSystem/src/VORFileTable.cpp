@@ -1,0 +1,163 @@
+#include "VORFileTable.h"
+
+#include <array>
+#include <atomic>
+#include <cstring>
+#include <mutex>
+#include <new>
+
+namespace
+{
+
+constexpr std::size_t BufferSize = std::size_t{64} * 1024;
+
+} // namespace
+
+void VOROutputFile::Open(VORLayer::File iFile, VORStatus iStatus)
+{
+    _File = iFile;
+    _Status = iStatus;
+    _Used = 0;
+    _IsOpen = true;
+}
+
+bool VOROutputFile::HasBuffer()
+{
+    if (!_Buffer)
+        _Buffer.reset(new (std::nothrow) char[BufferSize]);
+    return _Buffer != nullptr;
+}
+
+VORStatus VOROutputFile::Write(const void* iBytes, std::size_t iLength)
+{
+    if (_Status < 0)
+        return _Status;
+    if (iLength > BufferSize - _Used)
+        Flush();
+    if (iLength > BufferSize) {
+        Send(iBytes, iLength);
+    } else if (iLength > 0) {
+        std::memcpy(_Buffer.get() + _Used, iBytes, iLength);
+        _Used += iLength;
+    }
+    return _Status;
+}
+
+VORStatus VOROutputFile::Close()
+{
+    Flush();
+    if (_File != VORLayer::NoFile) {
+        const VORStatus status = VORLayer::Close(_File);
+        if (_Status == VOR_S_OK)
+            _Status = status;
+    }
+    _File = VORLayer::NoFile;
+    _IsOpen = false;
+    return _Status;
+}
+
+void VOROutputFile::Flush()
+{
+    Send(_Buffer.get(), _Used);
+    _Used = 0;
+}
+
+// After a failure nothing more is sent: a file with a hole in its middle helps nobody.
+void VOROutputFile::Send(const void* iBytes, std::size_t iLength)
+{
+    if (_Status == VOR_S_OK && iLength > 0)
+        _Status = VORLayer::Write(_File, iBytes, iLength);
+}
+
+namespace
+{
+
+constexpr unsigned int ChunkSize = 64;
+constexpr unsigned int ChunkCount =
+    1024; // 65,536 open files, as many as systems let a process have
+using Chunk = std::array<VOROutputFile, ChunkSize>;
+
+// Places never move, so that one thread finds its file while another adds places. They are there
+// before and after every object that may hold a handle: nothing here is constructed or destroyed.
+std::atomic<Chunk*> Chunks[ChunkCount];
+
+std::mutex Mutex; // guards what follows
+unsigned int HandleCount = 0;
+unsigned int SharedFree = 0;
+
+thread_local unsigned int OwnFree = 0;
+
+VOROutputFile& Place(unsigned int iHandle)
+{
+    Chunk* const chunk = Chunks[(iHandle - 1) / ChunkSize].load(std::memory_order_acquire);
+    return (*chunk)[(iHandle - 1) % ChunkSize];
+}
+
+unsigned int Pop(unsigned int& ioFirst)
+{
+    const unsigned int handle = ioFirst;
+    if (handle != 0)
+        ioFirst = Place(handle).nextFree;
+    return handle;
+}
+
+// A new handle; 0 when there are no more of them or no memory for their places.
+unsigned int Add()
+{
+    const unsigned int chunk = HandleCount / ChunkSize;
+    if (chunk == ChunkCount)
+        return 0;
+    if (!Chunks[chunk].load(std::memory_order_relaxed))
+        Chunks[chunk].store(new (std::nothrow) Chunk, std::memory_order_release);
+    return Chunks[chunk].load(std::memory_order_relaxed) ? ++HandleCount : 0;
+}
+
+// Gives the free handles of a thread that ends to all others.
+struct ThreadEnd {
+    ~ThreadEnd()
+    {
+        const std::lock_guard<std::mutex> lock(Mutex);
+        while (const unsigned int handle = Pop(OwnFree)) {
+            Place(handle).nextFree = SharedFree;
+            SharedFree = handle;
+        }
+    }
+};
+
+// Writes out what a program leaves open at its end.
+struct ProcessEnd {
+    ~ProcessEnd()
+    {
+        for (unsigned int handle = 1; handle <= HandleCount; ++handle) {
+            if (Place(handle).IsOpen())
+                Place(handle).Close();
+        }
+    }
+};
+const ProcessEnd CloseAll;
+
+} // namespace
+
+unsigned int VORFileTable::Take()
+{
+    if (const unsigned int own = Pop(OwnFree))
+        return own;
+    const std::lock_guard<std::mutex> lock(Mutex);
+    const unsigned int shared = Pop(SharedFree);
+    return shared != 0 ? shared : Add();
+}
+
+void VORFileTable::Free(unsigned int iHandle)
+{
+    thread_local const ThreadEnd end;
+    Place(iHandle).nextFree = OwnFree;
+    OwnFree = iHandle;
+}
+
+VOROutputFile* VORFileTable::PlaceOf(unsigned int iHandle)
+{
+    const unsigned int chunk = (iHandle - 1) / ChunkSize;
+    if (iHandle == 0 || chunk >= ChunkCount || !Chunks[chunk].load(std::memory_order_acquire))
+        return nullptr;
+    return &Place(iHandle);
+}
