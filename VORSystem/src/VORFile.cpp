@@ -11,7 +11,7 @@
 namespace
 {
 
-/// A file of the system, closed at its end unless somebody has taken it.
+/// A file of the system, closed at its end.
 class SystemFile
 {
 public:
@@ -29,6 +29,26 @@ public:
 
 private:
     VORLayer::File _File = VORLayer::NoFile;
+};
+
+/// A handle taken from the table, given back at its end unless somebody has it by then.
+class FreeHandle
+{
+public:
+    FreeHandle() : _Handle(VORFileTable::Take()) {}
+    FreeHandle(const FreeHandle&) = delete;
+    FreeHandle& operator=(const FreeHandle&) = delete;
+    ~FreeHandle()
+    {
+        if (_Handle != 0)
+            VORFileTable::Free(_Handle);
+    }
+
+    unsigned int Get() const { return _Handle; }
+    unsigned int Release() { return std::exchange(_Handle, 0); }
+
+private:
+    unsigned int _Handle;
 };
 
 VOROutputFile* FindOpen(unsigned int iFile)
@@ -84,21 +104,13 @@ VORStatus VORFOpen(const VORUnicodeString& iPath, const char* iMode, unsigned in
     oFile = 0;
     if (!iMode || std::strcmp(iMode, "w") != 0)
         return VOR_E_INVALIDARG;
-    SystemFile file;
-    const VORStatus status = file.OpenToWrite(iPath.ConvertToChar());
-    if (status < 0)
-        return status;
-    const unsigned int handle = VORFileTable::Take();
-    if (handle == 0)
+    FreeHandle handle;
+    if (handle.Get() == 0)
         return VOR_E_TOO_MANY_FILES;
-    VOROutputFile& place = *VORFileTable::PlaceOf(handle);
-    if (!place.HasBuffer()) {
-        VORFileTable::Free(handle);
-        return VOR_E_OUT_OF_MEMORY;
-    }
-    place.Open(file.Release(), VOR_S_OK);
-    oFile = handle;
-    return VOR_S_OK;
+    const VORStatus status = VORFileTable::PlaceOf(handle.Get())->Open(iPath.ConvertToChar());
+    if (status >= 0)
+        oFile = handle.Release();
+    return status;
 }
 
 VORStatus VORFReserve(unsigned int& oFile, VORStatus iStatus) noexcept
@@ -108,7 +120,7 @@ VORStatus VORFReserve(unsigned int& oFile, VORStatus iStatus) noexcept
         return VOR_E_INVALIDARG;
     if (oFile == 0)
         return VOR_E_TOO_MANY_FILES;
-    VORFileTable::PlaceOf(oFile)->Open(VORLayer::NoFile, iStatus);
+    VORFileTable::PlaceOf(oFile)->Reserve(iStatus);
     return VOR_S_OK;
 }
 

@@ -13,19 +13,21 @@ constexpr std::size_t BufferSize = std::size_t{64} * 1024;
 
 } // namespace
 
-void VOROutputFile::Open(VORLayer::File iFile, VORStatus iStatus)
-{
-    _File = iFile;
-    _Status = iStatus;
-    _Used = 0;
-    _IsOpen = true;
-}
-
-bool VOROutputFile::HasBuffer()
+VORStatus VOROutputFile::Open(const char* iPath)
 {
     if (!_Buffer)
         _Buffer.reset(new (std::nothrow) char[BufferSize]);
-    return _Buffer != nullptr;
+    if (!_Buffer)
+        return VOR_E_OUT_OF_MEMORY;
+    _Status = VORLayer::OpenToWrite(iPath, _File);
+    _IsOpen = _Status >= 0;
+    return _Status;
+}
+
+void VOROutputFile::Reserve(VORStatus iStatus)
+{
+    _Status = iStatus;
+    _IsOpen = true;
 }
 
 VORStatus VOROutputFile::Write(const void* iBytes, std::size_t iLength)

@@ -13,10 +13,10 @@ class VOROutputFile
 public:
     bool IsOpen() const { return _IsOpen; }
 
-    /// Takes over a file of the system, or stands for none when iStatus is negative.
-    void Open(VORLayer::File iFile, VORStatus iStatus);
-    /// Makes sure of the buffer; false without memory for it.
-    bool HasBuffer();
+    /// Creates or empties a file.
+    VORStatus Open(const char* iPath);
+    /// Stands for a file that failed with iStatus.
+    void Reserve(VORStatus iStatus);
     VORStatus Write(const void* iBytes, std::size_t iLength);
     VORStatus Close();
 
