@@ -1,0 +1,40 @@
+#ifndef VORKTRNumber_h
+#define VORKTRNumber_h
+
+#include <cstdint>
+#include <string>
+#include <type_traits>
+
+#include "VORKTRReportingObj.h"
+#include "VORReportKitExport.h"
+
+/// A number in double precision or a whole number of 64 bits, as its format says: no leading blank,
+/// no forced point. It is right-aligned in cells; in a list that holds a VORKTRReportingFloat it
+/// aligns with that on the decimal point. As an item of the report itself it brings no tag and no
+/// line end with it.
+class VORKIT_EXPORT VORKTRNumber : public VORKTRReportingObj
+{
+public:
+    /// A double in a printf format (see VORFormatFloat, which says what becomes of an unfit one).
+    explicit VORKTRNumber(double iValue, const char* iFormat = "%g");
+    /// A whole number of any type, below 2^63.
+    template <typename Whole, typename = std::enable_if_t<std::is_integral_v<Whole>>>
+    explicit VORKTRNumber(Whole iValue) : _Text(std::to_string(static_cast<std::int64_t>(iValue)))
+    {
+    }
+    ~VORKTRNumber() override;
+
+    void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
+                unsigned int iNavigationFile) const override;
+    void ASCIIReport(VORUnicodeString& ioText) const override;
+    int GetWidthInChar() const override;
+    void Report_in_List(unsigned int iFile, const char* iPath, unsigned char iFrames,
+                        unsigned int iNavigationFile, char iWide) const override;
+    void Report_in_Table(unsigned int iFile, const char* iPath, unsigned char iFrames,
+                         unsigned int iNavigationFile, char iHeader) const override;
+
+private:
+    std::string _Text;
+};
+
+#endif

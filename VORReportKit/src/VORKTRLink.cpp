@@ -1,0 +1,22 @@
+#include "VORKTRLink.h"
+
+#include "VORKTRKitPieces.h"
+
+VORKTRLink::VORKTRLink(const VORKTRLinkTarget& iTarget) : _Place(iTarget.GetPlace()) {}
+
+VORKTRLink::~VORKTRLink() = default;
+
+void VORKTRLink::Report(unsigned int iFile, const char*, unsigned char, unsigned int) const
+{
+    WriteHtml(iFile, LinkHtml(*_Place));
+}
+
+void VORKTRLink::ASCIIReport(VORUnicodeString& ioText) const
+{
+    ioText.Append(_Place->name);
+}
+
+int VORKTRLink::GetWidthInChar() const
+{
+    return _Place->name.GetLengthInChar();
+}

@@ -1,0 +1,66 @@
+#include "VORKTRProse.h"
+
+#include "VORKTRKitPieces.h"
+
+VORKTRProse::VORKTRProse(const VORUnicodeString& iText, int iIndent, int iCellWidth)
+    : _Indent(iIndent), _CellWidth(iCellWidth)
+{
+    Add(iText);
+}
+
+VORKTRProse::~VORKTRProse() = default;
+
+VORKTRProse& VORKTRProse::Add(const VORUnicodeString& iText)
+{
+    _Pieces.push_back({iText, nullptr});
+    return *this;
+}
+
+VORKTRProse& VORKTRProse::AddLink(const VORKTRLinkTarget& iTarget)
+{
+    _Pieces.push_back({"", iTarget.GetPlace()});
+    return *this;
+}
+
+std::string VORKTRProse::GetHtml() const
+{
+    std::string html;
+    for (const Piece& piece : _Pieces)
+        html += piece.place ? LinkHtml(*piece.place) : Escaped(piece.text);
+    return html;
+}
+
+std::vector<std::string> VORKTRProse::GetLines(int iWidth) const
+{
+    std::string text;
+    for (const Piece& piece : _Pieces)
+        text += BytesOf(piece.place ? piece.place->name : piece.text);
+    return BreakLines(text, iWidth);
+}
+
+void VORKTRProse::Report(unsigned int iFile, const char*, unsigned char, unsigned int) const
+{
+    WriteHtml(iFile, "<P>" + GetHtml() + "</P>\n");
+}
+
+void VORKTRProse::Report_in_Table(unsigned int iFile, const char*, unsigned char, unsigned int,
+                                  char iHeader) const
+{
+    WriteHtml(iFile, (iHeader ? "<TH ALIGN=LEFT>" : "<TD ALIGN=LEFT>") + GetHtml() +
+                         (iHeader ? "</TH>\n" : "</TD>\n"));
+}
+
+void VORKTRProse::ASCIIReport(VORUnicodeString& ioText) const
+{
+    ioText.Append(UnicodeOf(JoinIndented(GetLines(PageWidth - _Indent), _Indent) + "\n"));
+}
+
+int VORKTRProse::GetWidthInChar() const
+{
+    return WidestLine(GetLines(_CellWidth));
+}
+
+void VORKTRProse::ASCIIReport_in_Table(VORUnicodeString& ioText) const
+{
+    ioText.Append(UnicodeOf(JoinIndented(GetLines(_CellWidth), 0)));
+}
