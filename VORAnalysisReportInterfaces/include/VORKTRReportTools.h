@@ -1,6 +1,8 @@
 #ifndef VORKTRReportTools_h
 #define VORKTRReportTools_h
 
+#include <atomic>
+
 #include "VORAnalysisReportInterfacesExport.h"
 #include "VORUnicodeString.h"
 
@@ -11,7 +13,7 @@ public:
     VORKTRReportTools() = delete;
 
     /// Starts the figure numbers of the process at 1 again. Only the application calls it:
-    /// otherwise numbering goes on from report to report.
+    /// otherwise numbering goes on from report to report, in the order in which threads ask.
     static void InitFigureNumber();
     /// The next figure number.
     static int GetFigureNumber();
@@ -24,7 +26,7 @@ public:
     static int StartBrowser(const VORUnicodeString& page, unsigned char);
 
 private:
-    static int _figureNb;
+    static std::atomic<int> _figureNb;
 };
 
 #endif

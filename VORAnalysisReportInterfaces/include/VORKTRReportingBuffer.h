@@ -9,12 +9,13 @@
 #include "detail/VORKTRSteppedArray.h"
 
 /// A report: an ordered list of items that writes itself as a static web site (MakeReport) and as
-/// plain text for a page of 80 columns (MakeTextReport). A report and its items are used from one
-/// thread.
+/// plain text for a page of 80 columns (MakeTextReport). Different reports may be made in different
+/// threads at once; one report and its items stay in one thread.
 ///
 /// Operations return 0 or a negative status, 0x80004005 for a failure without a status of its own.
-/// None throws on purpose; a fatal-error handler may leave through them. What the system says to a
-/// write or close is not looked at.
+/// What they return does not say that all files arrived whole: TakeWriteStatus does. They throw
+/// std::bad_alloc when memory runs out, and what items of the application or a fatal-error handler
+/// throw; the report can then be used again and destroyed.
 class VORKTR_EXPORT VORKTRReportingBuffer
 {
 public:
@@ -24,7 +25,8 @@ public:
     /// Destroys the items and closes pages that a failed run left open. Files on disk stay.
     virtual ~VORKTRReportingBuffer();
 
-    /// Appends an item and takes ownership of it. Do not add an item twice. Fails on null.
+    /// Appends an item and takes ownership of it, see VORKTRReportingObj. Do not add an item twice.
+    /// Fails on null.
     int AddObject(VORKTRReportingObj* iObject);
 
     /// Inserts an item before position iIndex, from 0, and takes ownership of it. Fails on null and
@@ -56,11 +58,21 @@ public:
     int& GetIncludedFilesNumber() { return _IncludedFilesNb; }
     /// @}
 
+    /// The first negative status since the last call of anything that the report opened, wrote,
+    /// closed, moved, copied, made or deleted, its own reason where an operation returned only
+    /// 0x80004005; 0 when all of it arrived whole. VORStatusText has the words for it. Call it when
+    /// a site is written: it says what the statuses of the run do not, as of a full disk.
+    int TakeWriteStatus();
+
+    /// For items that write files of their own: adds a status, which TakeWriteStatus returns when
+    /// it is the first negative one.
+    void NoteWriteStatus(int iStatus);
+
     /// Writes the report as a web site into iDirectory (UTF-8), which is created when absent, but
     /// not its parents, and never emptied: files of the same names are overwritten. iTitle heads
     /// the site; it is HTML, not escaped. A report is written once; Update rewrites it. Fails when
     /// the directory cannot be created or written or a stylesheet or the first page cannot be
-    /// opened. A later page that cannot be opened shows in no status: its content is left out.
+    /// opened. A later page that cannot be opened is left out; TakeWriteStatus tells.
     int MakeReport(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle);
 
     /// Rewrites the site after items were added or removed. Page numbers start at 1 again; pages
@@ -110,12 +122,15 @@ public:
 private:
     void Adopt(VORKTRReportingObj& ioItem);
     VORUnicodeString* Keep(const VORUnicodeString& iText);
-    int BeginFrames();
-    int BeginSinglePage();
+    bool RequireDirectory() const;
+    VORUnicodeString ChooseBackground();
+    bool CopyBackground(const VORUnicodeString& iImage, VORUnicodeString& oCode);
+    static VORUnicodeString LatestBackground();
+    int BeginFrames(const VORUnicodeString& iBackground);
+    int BeginSinglePage(const VORUnicodeString& iBackground);
     int FlushAndFinish();
-    void ChooseBackground();
-    bool UseBackground(const VORUnicodeString& iImage);
-    void DeleteSiteFile(const VORUnicodeString& iName) const;
+    int DeleteSiteFile(const VORUnicodeString& iName);
+    void DeleteCharacterPages() const;
     void ClosePages();
 
     VORKTRItemArray _ObjectList;
@@ -130,6 +145,7 @@ private:
     VORUnicodeString* _Title = nullptr;
     unsigned int _PageFile = 0;
     unsigned int _NavigationFile = 0;
+    mutable int _WriteStatus = 0;
 
     static VORUnicodeString _BackgroundCode;
 };

@@ -19,8 +19,14 @@ enum VORKTRReportingFileType : int {
 
 /// An included file. It is moved into the report directory under a generated name ("file1.png", or
 /// with a time stamp "file1_68a2c0de.png") when the item learns that directory: give a copy of what
-/// must stay where it is. Images are numbered as figures (the other kinds take up a
-/// number without showing it); as plain text a file is a word in brackets.
+/// must stay where it is. Images are numbered as figures (the other kinds take up a number without
+/// showing it); as plain text a file is a word in brackets.
+///
+/// Regular files are taken, and links to them: a link's bytes become a file of the directory, the
+/// link goes, what it leads to stays. A directory, device or pipe is refused. What has the
+/// generated name already is deleted, even when the file then cannot be read: an older file of two
+/// reports of one second, or without time stamps. TakeWriteStatus of the report tells why a file
+/// did not arrive whole.
 class VORKTR_EXPORT VORKTRReportingFile : public VORKTRReportingObj
 {
 public:
@@ -28,14 +34,16 @@ public:
     VORKTRReportingFile(VORKTRReportingFileType type, const char* path);
     ~VORKTRReportingFile() override;
 
-    /// Moves the file into the report directory. Only the first directory counts; after a failure
-    /// (no report, an unreadable source) the item keeps its path and the next call tries again.
+    /// Moves the file into the report directory. Only the first directory counts, null does not;
+    /// after a failure (no report, an unreadable source) the item keeps its path and the next call
+    /// tries again. When it throws, the file was not moved.
     void SetBufferData(const VORUnicodeString* directory) override;
 
-    /// Moves the file into a directory, across file systems by a copy, under a generated name and
-    /// returns that name, which the caller releases with delete[]; null on failure. A file that is
-    /// its own target, by whatever link, stays and counts as moved. A copy that ended short, as on
-    /// a full disk, still counts as a move but leaves the source where it is.
+    /// Moves the file into a directory under a generated name and returns that name, which the
+    /// caller releases with delete[]; null on failure, also for a null directory. Across file
+    /// systems the file is copied; the source goes once the copy is on the disk, and stays when the
+    /// copy ended short, as on a full disk, which counts as a move. A file that is its own target
+    /// stays.
     char* MoveFile(const char* directory) const;
 
     /// Deletes the file: the moved one, or the caller's own when it was never moved. Returns 0, or
@@ -50,6 +58,8 @@ public:
     void ASCIIReport_in_Table(VORUnicodeString& ioText) const override;
 
 private:
+    VORString NextName() const;
+    int MoveAs(const VORString& iName, const VORUnicodeString& iDirectory) const;
     void WriteEmbed(unsigned int iFile, const char* iAttributes) const;
     const char* GetWord() const;
 

@@ -10,6 +10,7 @@
 #include "VORIKTRReporting.h"
 #include "VORIKTRReportingSettingAtt.h"
 #include "VORStatus.h"
+#include "support/Rendering.h"
 
 namespace
 {
@@ -81,6 +82,14 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     const char* const standard = "BACKGROUND=\"Corp.gif\"";
     const char* const user = "BACKGROUND=\"paper.png\"";
     const char* const named = "BACKGROUND=\"missing.png\"";
+    // The longest parts of a path that later pages name.
+    const std::string dots = images + Repeat((256 - static_cast<int>(images.size())) / 2, "/.");
+    const std::string directory256 = std::string(256 - dots.size(), '/') + dots;
+    const std::string name256(256, 'n');
+    const std::string longest = directory256 + "/" + name256;
+    const std::string longName = longest + "n";
+    const std::string longDirectory = "/" + longest;
+    const std::string longNamed = "BACKGROUND=\"" + name256 + "\"";
     // In this order: the background copied last stays that of first pages.
     const struct {
         VORComponentFactory settings;
@@ -97,6 +106,9 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
         {New<Settings>, {0, 0, 0, "paper.png"}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, directory}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, missing}, false, colour, named, ""},
+        {New<Settings>, {0, 0, 0, longest.c_str()}, false, colour, longNamed.c_str(), ""},
+        {New<Settings>, {0, 0, 0, longName.c_str()}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, longDirectory.c_str()}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, paper}, true, user, user, "paper.png"},
         {New<Settings>, {0, 0, 0, missing}, false, user, named, ""},
         {New<Settings>, {0, 0, 0, missing}, true, standard, named, "Corp.gif"},
@@ -154,6 +166,14 @@ TEST_F(ComponentTest, InterfacesAreInTheDictionaryFromTheStart)
     ExpectInterface<VORIKTRReportingSettingAtt>(
         "VORIKTRReportingSettingAtt", IID_VORIKTRReportingSettingAtt,
         {0x5C3B22E5, 0x0845, 0x4AAD, {0xAB, 0x6E, 0xA9, 0x25, 0x0F, 0x6F, 0x7E, 0xE5}});
+}
+
+TEST_F(ComponentTest, ReservedSettingsAreNotImplemented)
+{
+    Settings settings;
+    for (const int status : {settings.GetReservedSetting1(), settings.GetReservedSetting2(),
+                             settings.GetReservedSetting3()})
+        EXPECT_EQ(status, VOR_E_NOTIMPL);
 }
 
 TEST_F(ComponentTest, AHandleTakesItsInterfaceAlone)

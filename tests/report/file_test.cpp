@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <regex>
 #include <string>
+#include <utility>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -13,6 +14,7 @@
 #include "ReportTest.h"
 #include "VORKTRReportingFile.h"
 #include "VORMsgCatalog.h"
+#include "VORStatus.h"
 #include "support/Rendering.h"
 
 namespace
@@ -110,13 +112,52 @@ TEST_F(IncludedFile, IsMovedOnceItCanBe)
     EXPECT_EQ(report.GetIncludedFilesNumber(), 3);
 }
 
+TEST_F(IncludedFile, IsARegularFileOfTheSitesOwn)
+{
+    const std::string kept = Source("kept", "what links lead to");
+    fs::create_directory(temporary.Path("a.dir"));
+    ASSERT_EQ(::mkfifo(temporary.Path("a.pipe").c_str(), 0600), 0);
+    const std::pair<const char*, std::string> links[] = {
+        {"a.link", kept}, {"b.link", kept}, {"c.link", site + "/file6.link"}, {"d.link", "none"}};
+    for (const auto& [name, target] : links)
+        fs::create_symlink(target, temporary.Path(name));
+    fs::create_hard_link(Source("a.hard", "hard"), site + "/file3.hard");
+    fs::create_symlink(kept, site + "/file5.link");
+    WriteFile(site + "/file6.link", "a link's own target");
+    const struct {
+        const char *name, *moved, *bytes;
+        int status;
+    } cases[] = {{"a.dir", nullptr, nullptr, VOR_E_ACCESS_DENIED},
+                 {"a.pipe", nullptr, nullptr, VOR_E_ACCESS_DENIED},
+                 {"a.hard", "file3.hard", "hard", 0},
+                 {"a.link", "file4.link", "what links lead to", 0},
+                 {"b.link", "file5.link", "what links lead to", 0},
+                 {"c.link", "file6.link", "a link's own target", 0},
+                 {"d.link", nullptr, nullptr, VOR_E_FILE_NOT_FOUND}};
+    for (const auto& one : cases) {
+        const std::string path = temporary.Path(one.name);
+        EXPECT_EQ(HtmlOf(*Send(AddFile(path))), Embedded(one.moved ? one.moved : path));
+        EXPECT_EQ(report.TakeWriteStatus(), one.status) << one.name;
+        EXPECT_EQ(fs::exists(fs::symlink_status(path)), !one.moved) << one.name;
+        if (one.moved) {
+            EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(site + "/" + one.moved)));
+            EXPECT_EQ(Page(one.moved), one.bytes);
+        }
+    }
+    EXPECT_EQ(ReadFile(kept), "what links lead to");
+    EXPECT_EQ(HtmlOf(*Send(AddFile("/proc/self/mem"))), Embedded("file8")); // opens, is not read
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FAIL);
+}
+
 TEST_F(IncludedFile, IsDeletedWithItsItem)
 {
     Send(AddFile(temporary.Path("none.gif")));
     Send(AddFile(Source("moved.gif")));
     AddFile(Source("own.gif"));
     EXPECT_TRUE(fs::exists(site + "/file2.gif"));
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
     EXPECT_EQ(report.RemoveObject(0), Failure);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
     EXPECT_EQ(report.RemoveObject(1), 0);
     EXPECT_EQ(report.RemoveObject(2), 0);
     EXPECT_FALSE(fs::exists(site + "/file2.gif"));
@@ -157,6 +198,7 @@ TEST_F(IncludedFile, IsCopiedFromAnotherFileSystemAndDeletedWhenItArrivedWhole)
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
     EXPECT_EQ(HtmlOf(*Send(AddFile(far.Path("b.gif")))), Embedded("file2.gif"));
     EXPECT_TRUE(ReadFile(far.Path("b.gif")) == bytes);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_DISK_FULL);
 }
 
 TEST_F(IncludedFile, ShowsItsKind)
@@ -164,6 +206,7 @@ TEST_F(IncludedFile, ShowsItsKind)
     std::string all;
     for (const int type : {0, 1, 2, 3, 4, 0}) {
         const VORKTRReportingFile item(static_cast<VORKTRReportingFileType>(type), "a&b.x");
+        EXPECT_EQ(item.GetType(), 6);
         all += HtmlOf(item) + CellTextOf(item) + "\n" + TextOf(item);
         EXPECT_EQ(item.GetWidthInChar(), static_cast<int>(CellTextOf(item).size()));
     }

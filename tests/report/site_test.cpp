@@ -156,6 +156,8 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
     for (const int status :
          {report.BeginReport(), report.Flush(), report.FinishReport(), report.Update()})
         EXPECT_EQ(status, VOR_E_FAIL);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
+    EXPECT_EQ(report.TakeWriteStatus(), 0);
     EXPECT_EQ(report.MakeReport(temporary.Path("no/parent").c_str(), ""), VOR_E_FAIL);
     const std::pair<std::string, int> cases[] = {{"main.css", 1},        {"index.html", 1},
                                                  {"navigation.css", 2},  {"index.html", 2},
@@ -169,6 +171,7 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
             for (int i = 0; i < titles; ++i)
                 failing.AddObject(Title("", 1));
             EXPECT_EQ(failing.MakeReport(site.c_str(), "Site"), VOR_E_FAIL) << blocked;
+            EXPECT_LT(failing.TakeWriteStatus(), 0) << blocked;
         }
         written += Bodies(site) + "\n";
     }
@@ -178,6 +181,7 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
     fs::remove(site + "/index.html");
     fs::create_symlink("none/index.html", site + "/index.html");
     EXPECT_EQ(Make(), VOR_E_FILE_NOT_FOUND);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
 }
 
 TEST_F(SiteTest, ARunClosesThePagesThatAFailedOneLeftOpen)
@@ -197,18 +201,45 @@ TEST_F(SiteTest, ARunClosesThePagesThatAFailedOneLeftOpen)
     EXPECT_EQ(files[0] + files[1] + files[2], 1u + 2u + 3u);
 }
 
+/// Writes a file of its own over several items.
+struct FileWriter : Probe {
+    explicit FileWriter(const std::string& iPath) : path(iPath) {}
+    ~FileWriter() override { VORFClose(file); }
+    void Report(unsigned int, const char*, unsigned char, unsigned int) const override
+    {
+        EXPECT_EQ(VORFOpen(path.c_str(), "w", file), 0);
+        VORFWrite(file, "own", 3, nullptr);
+    }
+
+    std::string path;
+    mutable unsigned int file = 0;
+};
+
 TEST_F(SiteTest, FailuresOfPagesCostOnlyTheirItems)
 {
     fs::create_directories(site + "/page2.html");
     for (const char* const name : {"index.html", "main.css", "page4.html"})
         fs::create_symlink("/dev/full", site + "/" + name);
-    Add({Title("A", 1), Text("lost"), Title("B", 1), Text("b"), Title("C", 2)});
+    auto* const own = new FileWriter(temporary.Path("own"));
+    Add({Title("A", 1), own, Text("lost"), Title("B", 1), Text("b"), Title("C", 2)});
     EXPECT_EQ(Make(), 0);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_DISK_FULL);
+    EXPECT_EQ(report.RemoveObject(own), 0);
+    EXPECT_EQ(ReadFile(temporary.Path("own")), "own"); // a lost page's items went nowhere
     EXPECT_EQ(BodyOf(Page("page1.html")) + BodyOf(Page("page3.html")) +
                   BodyOf(Page("navigation.html")),
               Expected("pages_after_failures.txt"));
     EXPECT_EQ(report.RemoveObject(0), 0);
     EXPECT_EQ(report.Update(), 0); // a single page on a full disk
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_DISK_FULL);
+    for (const char* const name : {"index.html", "main.css"})
+        fs::remove(site + "/" + name);
+    EXPECT_EQ(report.Update(), 0);
+    report.NoteWriteStatus(VOR_S_OK);
+    EXPECT_EQ(report.TakeWriteStatus(), 0);
+    report.NoteWriteStatus(VOR_E_INVALIDARG);
+    report.NoteWriteStatus(VOR_E_FAIL);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_INVALIDARG);
 }
 
 TEST_F(SiteTest, ADirectoryThatMayNotBeWrittenEndsTheRun)
@@ -222,7 +253,8 @@ TEST_F(SiteTest, ADirectoryThatMayNotBeWrittenEndsTheRun)
             ::_exit(2);
         VORUnicodeString directory(site.c_str());
         const int refused = VORFileAccess(directory, 2, 0);
-        const bool isRefused = refused < 0 && report.MakeReport(directory, "") == refused;
+        const bool isRefused = refused < 0 && report.MakeReport(directory, "") == refused &&
+                               report.TakeWriteStatus() == refused;
         const bool hasNoStyle = report.MakeStylesheets(directory, 0) == VOR_E_FAIL;
         ::_exit(isRefused && hasNoStyle ? 0 : 1);
     };

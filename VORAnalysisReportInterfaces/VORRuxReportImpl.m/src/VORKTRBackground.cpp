@@ -5,6 +5,7 @@
 #include "VORComponent.h"
 #include "VORFile.h"
 #include "VORIKTRReportingSettingAtt.h"
+#include "VORKTRSite.h"
 #include "VORPath.h"
 
 VORUnicodeString ImageBackground(const VORUnicodeString& iFileName)
@@ -28,11 +29,18 @@ SettingsPointer FindSettings()
     return SettingsPointer(status < 0 ? nullptr : static_cast<VORIKTRReportingSettingAtt*>(found));
 }
 
-bool IsStandardImageIn(const char* iPath)
+bool Exists(const VORUnicodeString& iPath, int& ioFailure)
+{
+    const int status = VORFileAccess(iPath, 0, 0);
+    if (status != VOR_E_FILE_NOT_FOUND)
+        Noted(ioFailure, status);
+    return status == VOR_S_OK;
+}
+
+bool IsStandardImageIn(const char* iPath, int& ioFailure)
 {
     VORUnicodeString image;
-    return VORMakePath(iPath, StandardBackgroundImage, image) >= 0 &&
-           VORFileAccess(image, 0, 0) == 0;
+    return VORMakePath(iPath, StandardBackgroundImage, image) >= 0 && Exists(image, ioFailure);
 }
 
 } // namespace
@@ -51,17 +59,17 @@ BackgroundSetting ReadBackgroundSetting()
     return setting;
 }
 
-VORUnicodeString ChoosePageBackground(const char* iPath)
+VORUnicodeString ChoosePageBackground(const char* iPath, int& ioFailure)
 {
     const BackgroundSetting setting = ReadBackgroundSetting();
     if (setting.isStandard)
-        return IsStandardImageIn(iPath) ? ImageBackground(StandardBackgroundImage)
-                                        : PlainBackground;
+        return IsStandardImageIn(iPath, ioFailure) ? ImageBackground(StandardBackgroundImage)
+                                                   : PlainBackground;
     constexpr std::size_t longestPart = 256;
     char directory[longestPart + 1];
     char name[longestPart + 1];
     const bool isThere =
         VORSplitPath(setting.image.ConvertToChar(), directory, name, sizeof name) >= 0 &&
-        VORFileAccess(directory, 0, 0) == 0;
+        Exists(directory, ioFailure);
     return isThere ? ImageBackground(name) : PlainBackground;
 }

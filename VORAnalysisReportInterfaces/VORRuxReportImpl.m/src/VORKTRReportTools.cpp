@@ -3,7 +3,7 @@
 #include "VOREnvironment.h"
 #include "VORPath.h"
 
-int VORKTRReportTools::_figureNb = 0;
+std::atomic<int> VORKTRReportTools::_figureNb{0};
 
 void VORKTRReportTools::InitFigureNumber()
 {

@@ -1,16 +1,15 @@
 #include "VORKTRReportingBuffer.h"
 
+#include <mutex>
 #include <utility>
 
 #include "VOREnvironment.h"
 #include "VORFile.h"
 #include "VORKTRBackground.h"
-#include "VORKTRFragment.h"
 #include "VORKTRItems.h"
 #include "VORKTRLayout.h"
 #include "VORKTRReportingBag.h"
 #include "VORKTRSite.h"
-#include "VORKTRStylesheets.h"
 #include "VORPath.h"
 
 namespace
@@ -18,23 +17,17 @@ namespace
 
 constexpr int LongestBannerTitle = 74;
 
-bool EnsureDirectory(const VORUnicodeString& iPath)
+std::mutex BackgroundMutex; // guards the background that the process shares
+
+// 0, or why there is no directory.
+int EnsureDirectory(const VORUnicodeString& iPath)
 {
     VORDIR directory;
-    if (VOROpenDirectory(iPath, &directory) >= 0 && VORCloseDirectory(&directory) >= 0)
-        return true;
-    return VORCreateDirectory(iPath) == 0;
-}
-
-int WriteStylesheet(const VORUnicodeString& iDirectory, const char* iName, const char* iText)
-{
-    unsigned int file = 0;
-    const int status = OpenSiteFile(iDirectory, iName, file);
-    if (status < 0)
-        return status;
-    WriteFragment(file, iText);
-    VORFClose(file);
-    return VOR_S_OK;
+    const int opened = VOROpenDirectory(iPath, &directory);
+    if (opened >= 0 && VORCloseDirectory(&directory) >= 0)
+        return VOR_S_OK;
+    const int created = VORCreateDirectory(iPath);
+    return created != VOR_S_OK && opened == VOR_E_ACCESS_DENIED ? opened : created;
 }
 
 int CountTitles(VORKTRReportingObj& iItem, int iOrder)
@@ -123,13 +116,23 @@ VORUnicodeString* VORKTRReportingBuffer::Keep(const VORUnicodeString& iText)
     return &_Texts.front();
 }
 
+int VORKTRReportingBuffer::TakeWriteStatus()
+{
+    return std::exchange(_WriteStatus, VOR_S_OK);
+}
+
+void VORKTRReportingBuffer::NoteWriteStatus(int iStatus)
+{
+    Noted(_WriteStatus, iStatus);
+}
+
 int VORKTRReportingBuffer::MakeReport(const VORUnicodeString& iDirectory,
                                       const VORUnicodeString& iTitle)
 {
     VORUnicodeString* const path = Keep(iDirectory);
     _Title = Keep(iTitle);
     _Path = path;
-    if (!EnsureDirectory(*_Path))
+    if (Noted(_WriteStatus, EnsureDirectory(*_Path)) != 0)
         return VOR_E_FAIL;
     _Frames = FramesExist() != 0;
     const int status = BeginReport();
@@ -142,99 +145,128 @@ int VORKTRReportingBuffer::MakeReport(const VORUnicodeString& iDirectory,
 
 int VORKTRReportingBuffer::Update()
 {
-    if (!_Path || !_Title)
+    if (!RequireDirectory())
         return VOR_E_FAIL;
     _Frames = FramesExist() != 0;
     DeleteSiteFile(NavigationName);
-    DeleteSiteFile(NavigationStylesName);
-    // Named by the character of that code, not by the number: the numbered pages stay, to be
-    // overwritten, unless the code is that of a digit.
-    for (int page = 1; page <= _PagesNb; ++page)
-        DeleteSiteFile("page" + VORUnicodeString(static_cast<VORUnicodeChar>(page), 1) + ".html");
+    if (DeleteSiteFile(NavigationStylesName) >= 0)
+        DeleteCharacterPages();
     _PagesNb = 1;
     const int status = BeginReport();
     return status < 0 ? status : FlushAndFinish();
 }
 
-void VORKTRReportingBuffer::DeleteSiteFile(const VORUnicodeString& iName) const
+// False before the first MakeReport, which is noted.
+bool VORKTRReportingBuffer::RequireDirectory() const
+{
+    return Noted(_WriteStatus, _Path ? VOR_S_OK : VOR_E_FILE_NOT_FOUND) >= 0;
+}
+
+// Returns the status of the path.
+int VORKTRReportingBuffer::DeleteSiteFile(const VORUnicodeString& iName)
 {
     VORUnicodeString path;
-    if (VORMakePath(*_Path, iName, path) >= 0)
-        VORDeleteFile(path);
+    const int status = Noted(_WriteStatus, VORMakePath(*_Path, iName, path));
+    const int deleted = status < 0 ? VOR_S_OK : VORDeleteFile(path);
+    if (deleted != VOR_E_FILE_NOT_FOUND)
+        NoteWriteStatus(deleted);
+    return status;
+}
+
+// Pages named by the character of that code, not by the number: the numbered pages stay, to be
+// overwritten, unless the code is that of a digit.
+void VORKTRReportingBuffer::DeleteCharacterPages() const
+{
+    for (int page = 1; page <= _PagesNb; ++page) {
+        const VORUnicodeString character(static_cast<VORUnicodeChar>(page), 1);
+        VORUnicodeString path;
+        if (VORMakePath(*_Path, "page" + character + ".html", path) >= 0)
+            VORDeleteFile(path);
+    }
 }
 
 int VORKTRReportingBuffer::BeginReport()
 {
-    if (!_Path || !_Title)
+    if (!RequireDirectory())
         return VOR_E_FAIL;
-    const int access = VORFileAccess(*_Path, 2, 0);
+    const int access = Noted(_WriteStatus, VORFileAccess(*_Path, 2, 0));
     if (access < 0)
         return access;
     ClosePages();
-    ChooseBackground();
-    if (MakeStylesheets(*_Path, _Frames) == VOR_E_FAIL)
+    const VORUnicodeString background = ChooseBackground();
+    if (WriteStylesheets(*_Path, _Frames, _WriteStatus) == VOR_E_FAIL)
         return VOR_E_FAIL;
-    return _Frames ? BeginFrames() : BeginSinglePage();
+    return _Frames ? BeginFrames(background) : BeginSinglePage(background);
 }
 
-int VORKTRReportingBuffer::BeginFrames()
+int VORKTRReportingBuffer::BeginFrames(const VORUnicodeString& iBackground)
 {
-    const int status = PrepareFrames(*_Path, *_Title, _NavigationFile, _PageFile);
+    const int status =
+        OpenFrames(*_Path, *_Title, iBackground, _NavigationFile, _PageFile, _WriteStatus);
     return status == VOR_E_FAIL ? status : VOR_S_OK;
 }
 
-int VORKTRReportingBuffer::BeginSinglePage()
+int VORKTRReportingBuffer::BeginSinglePage(const VORUnicodeString& iBackground)
 {
     VORUnicodeString path;
-    if (VORMakePath(*_Path, IndexName, path) < 0)
+    if (Noted(_WriteStatus, VORMakePath(*_Path, IndexName, path)) < 0)
         return VOR_S_OK; // without a page, Flush fails
-    const int status = VORFOpen(path, "w", _PageFile);
+    const int status = Noted(_WriteStatus, VORFOpen(path, "w", _PageFile));
     if (status < 0)
         return status;
-    WriteFirstPageHead(_PageFile, *_Title, _BackgroundCode);
+    WriteFirstPageHead(_PageFile, *_Title, iBackground);
     return VOR_S_OK;
 }
 
-void VORKTRReportingBuffer::ChooseBackground()
+// The background of the first page: an image that could be copied, else that of the run before, of
+// whatever report of the process.
+VORUnicodeString VORKTRReportingBuffer::ChooseBackground()
 {
     const BackgroundSetting setting = ReadBackgroundSetting();
-    if (!setting.isStandard && UseBackground(setting.image))
-        return;
+    VORUnicodeString code;
+    if (!setting.isStandard && CopyBackground(setting.image, code))
+        return code;
     VORUnicodeString image;
     VORFindPath(StandardBackgroundImage, VORGetEnv("VORGraphicPath"), image);
-    UseBackground(image);
+    return CopyBackground(image, code) ? code : LatestBackground();
 }
 
-bool VORKTRReportingBuffer::UseBackground(const VORUnicodeString& iImage)
+bool VORKTRReportingBuffer::CopyBackground(const VORUnicodeString& iImage, VORUnicodeString& oCode)
 {
     VORUnicodeString directory;
     VORUnicodeString name;
     if (VORSplitPath(iImage, directory, name) < 0 || directory == "" ||
         CopyIcon(name, directory) < 0)
         return false;
-    _BackgroundCode = ImageBackground(name);
+    oCode = ImageBackground(name);
+    const std::lock_guard<std::mutex> lock(BackgroundMutex);
+    _BackgroundCode = oCode;
     return true;
+}
+
+VORUnicodeString VORKTRReportingBuffer::LatestBackground()
+{
+    const std::lock_guard<std::mutex> lock(BackgroundMutex);
+    return _BackgroundCode;
 }
 
 int VORKTRReportingBuffer::CopyIcon(VORUnicodeString& iFileName,
                                     VORUnicodeString& iSourceDirectory) const
 {
-    if (!_Path)
+    if (!RequireDirectory())
         return VOR_E_FAIL;
     VORUnicodeString source;
     VORUnicodeString target;
     int status = VORMakePath(iSourceDirectory, iFileName, source);
     if (status >= 0)
         status = VORMakePath(*_Path, iFileName, target);
-    return status < 0 ? status : VORFCopy(source, target, 1);
+    return Noted(_WriteStatus, status < 0 ? status : VORFCopy(source, target, 1));
 }
 
 int VORKTRReportingBuffer::MakeStylesheets(VORUnicodeString& directory, char withNavigation)
 {
-    const int status = WriteStylesheet(directory, MainStylesName, MainStyles);
-    if (status < 0 || !withNavigation)
-        return status;
-    return WriteStylesheet(directory, NavigationStylesName, NavigationStyles);
+    int unseen = VOR_S_OK;
+    return WriteStylesheets(directory, withNavigation != 0, unseen);
 }
 
 int VORKTRReportingBuffer::FramesExist() const
@@ -253,23 +285,8 @@ int VORKTRReportingBuffer::FramesExist() const
 int VORKTRReportingBuffer::PrepareFrames(VORUnicodeString& directory, const VORUnicodeString& title,
                                          unsigned int& navigationFile, unsigned int& pageFile)
 {
-    unsigned int indexFile = 0;
-    int status = OpenSiteFile(directory, IndexName, indexFile);
-    if (status < 0)
-        return status;
-    WriteIndexFrames(indexFile, title);
-    VORFClose(indexFile);
-
-    status = OpenSiteFile(directory, NavigationName, navigationFile);
-    if (status < 0)
-        return status;
-    WriteNavigationHead(navigationFile, title, _BackgroundCode);
-
-    status = OpenSiteFile(directory, PageName(1), pageFile);
-    if (status < 0)
-        return status;
-    WriteFirstPageHead(pageFile, title, _BackgroundCode);
-    return VOR_S_OK;
+    int unseen = VOR_S_OK;
+    return OpenFrames(directory, title, LatestBackground(), navigationFile, pageFile, unseen);
 }
 
 int VORKTRReportingBuffer::FlushAndFinish()
@@ -280,8 +297,12 @@ int VORKTRReportingBuffer::FlushAndFinish()
 
 int VORKTRReportingBuffer::Flush()
 {
-    if (!_Path || _PageFile == 0)
+    if (!RequireDirectory())
         return VOR_E_FAIL;
+    if (_PageFile == 0) {
+        NoteWriteStatus(VOR_E_INVALID_HANDLE);
+        return VOR_E_FAIL;
+    }
     ForEachItem(_ObjectList, [this](const VORKTRReportingObj& item) {
         item.Report(_PageFile, _Path->ConvertToChar(), _Frames, _NavigationFile);
     });
@@ -290,11 +311,11 @@ int VORKTRReportingBuffer::Flush()
 
 int VORKTRReportingBuffer::FinishReport()
 {
-    if (!_Path)
+    if (!RequireDirectory())
         return VOR_E_FAIL;
-    ClosePage(std::exchange(_PageFile, 0));
+    NoteWriteStatus(ClosePage(std::exchange(_PageFile, 0)));
     if (_Frames)
-        ClosePage(std::exchange(_NavigationFile, 0));
+        NoteWriteStatus(ClosePage(std::exchange(_NavigationFile, 0)));
     DeleteSiteFile(ReloadName);
     return VOR_S_OK;
 }
@@ -303,21 +324,15 @@ void VORKTRReportingBuffer::ClosePages()
 {
     for (unsigned int* const file : {&_NavigationFile, &_PageFile}) {
         if (*file != 0)
-            VORFClose(std::exchange(*file, 0));
+            NoteWriteStatus(VORFClose(std::exchange(*file, 0)));
     }
 }
 
 int VORKTRReportingBuffer::MakeReloadPage()
 {
-    if (!_Path || !_Title)
+    if (!RequireDirectory())
         return VOR_E_FAIL;
-    unsigned int file = 0;
-    const int status = OpenSiteFile(*_Path, ReloadName, file);
-    if (status < 0)
-        return status;
-    WriteReloadFrames(file, *_Title, _Frames, GetPagesNumber(), GetIndex());
-    VORFClose(file);
-    return VOR_S_OK;
+    return WriteReloadPage(*_Path, *_Title, {_Frames, GetPagesNumber(), GetIndex()}, _WriteStatus);
 }
 
 int VORKTRReportingBuffer::MakeTextReport(const VORUnicodeString& iTitle,

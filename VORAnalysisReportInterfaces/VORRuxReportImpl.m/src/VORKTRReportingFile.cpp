@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include "VOREnvironment.h"
 #include "VORFile.h"
@@ -16,45 +17,48 @@
 namespace
 {
 
-using FileStream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-FileStream OpenStream(const char* iPath, const char* iMode)
+// A link's bytes become a file of the site's own; the link goes, what it leads to stays.
+int TakeLink(const VORUnicodeString& iSource, const VORUnicodeString& iTarget)
 {
-    return FileStream(std::fopen(iPath, iMode), &std::fclose);
-}
-
-// True when all of the source was read and the target took it; the close has the last word.
-bool CopyStream(std::FILE* iSource, std::FILE* iTarget)
-{
-    char block[1024];
-    std::size_t size = 0;
-    while ((size = std::fread(block, 1, sizeof block, iSource)) > 0)
-        std::fwrite(block, 1, size, iTarget);
-    return !std::ferror(iSource) && !std::ferror(iTarget);
-}
-
-// False when a file cannot be opened. A source that did not arrive whole is not deleted.
-bool CopyAndDelete(const char* iSource, const char* iTarget)
-{
-    const FileStream source = OpenStream(iSource, "rb");
-    if (!source)
-        return false;
-    FileStream target = OpenStream(iTarget, "wb");
-    if (!target)
-        return false;
-    const bool isWhole = CopyStream(source.get(), target.get());
-    if (std::fclose(target.release()) == 0 && isWhole)
+    if (VORGetFileKind(iTarget) == VORLinkToFile)
+        VORDeleteFile(iTarget);
+    const int status = VORFCopy(iSource, iTarget, 1);
+    if (status >= 0)
         VORDeleteFile(iSource);
-    return true;
+    return status;
 }
 
-bool Move(const VORUnicodeString& iSource, const VORUnicodeString& iTarget)
+// A file that cannot be renamed is copied; a source that did not arrive whole stays.
+int TakeFile(const VORUnicodeString& iSource, const VORUnicodeString& iTarget, int& ioFailure)
+{
+    VORDeleteFile(iTarget);
+    if (VORRenameFile(iSource, iTarget) == 0)
+        return VOR_S_OK;
+    int arrival = VOR_S_OK;
+    const int status = VORFTransfer(iSource, iTarget, arrival);
+    if (status >= 0 && Noted(ioFailure, arrival) >= 0)
+        VORDeleteFile(iSource);
+    return status;
+}
+
+// Negative when there is no target; ioFailure notes also what it lacks.
+int Move(const VORUnicodeString& iSource, const VORUnicodeString& iTarget, int& ioFailure)
 {
     if (VORIsSameEntry(iSource, iTarget))
-        return true;
-    VORDeleteFile(iTarget);
-    return VORRenameFile(iSource, iTarget) == 0 ||
-           CopyAndDelete(iSource.ConvertToChar(), iTarget.ConvertToChar());
+        return VOR_S_OK;
+    switch (VORGetFileKind(iSource)) {
+    case VORNoFile: // a link that leads nowhere, too: it could be renamed
+        VORDeleteFile(iTarget);
+        return Noted(ioFailure, VOR_E_FILE_NOT_FOUND);
+    case VORDirectory:
+    case VOROtherFile:
+        return Noted(ioFailure, VOR_E_ACCESS_DENIED);
+    case VORLinkToFile:
+        return Noted(ioFailure, TakeLink(iSource, iTarget));
+    case VORRegularFile:
+        break;
+    }
+    return Noted(ioFailure, TakeFile(iSource, iTarget, ioFailure));
 }
 
 // The last '.' of the file's own name and what follows it; empty without one.
@@ -91,35 +95,51 @@ VORKTRReportingFile::~VORKTRReportingFile() = default;
 
 void VORKTRReportingFile::SetBufferData(const VORUnicodeString* directory)
 {
-    if (_Directory || !directory)
+    if (_Directory || !directory || !_Buffer)
         return;
-    const std::unique_ptr<const char[]> name(MoveFile(directory->ConvertToChar()));
-    if (!name)
+    auto kept = std::make_unique<VORUnicodeString>(*directory);
+    VORString name = NextName();
+    if (MoveAs(name, *directory) < 0)
         return;
-    _Directory = std::make_unique<VORUnicodeString>(*directory);
-    _FilePath = name.get();
+    _Directory = std::move(kept);
+    _FilePath.swap(name);
 }
 
 char* VORKTRReportingFile::MoveFile(const char* directory) const
 {
     if (!_Buffer)
         return nullptr;
-    const VORString name =
-        NumberedName(++_Buffer->GetIncludedFilesNumber(), ExtensionOf(_FilePath.c_str()));
+    const VORString name = NextName();
+    auto result = std::make_unique<char[]>(name.size() + 1);
+    name.copy(result.get(), name.size());
+    return MoveAs(name, directory) < 0 ? nullptr : result.release();
+}
+
+VORString VORKTRReportingFile::NextName() const
+{
+    return NumberedName(++_Buffer->GetIncludedFilesNumber(), ExtensionOf(_FilePath.c_str()));
+}
+
+int VORKTRReportingFile::MoveAs(const VORString& iName, const VORUnicodeString& iDirectory) const
+{
+    int failure = VOR_S_OK;
     VORUnicodeString target;
-    if (VORMakePath(directory, name.c_str(), target) < 0 || !Move(_FilePath.c_str(), target))
-        return nullptr;
-    char* const result = new char[name.size() + 1];
-    result[name.copy(result, name.size())] = '\0';
-    return result;
+    int status = Noted(failure, VORMakePath(iDirectory, iName.c_str(), target));
+    if (status >= 0)
+        status = Move(_FilePath.c_str(), target, failure);
+    _Buffer->NoteWriteStatus(failure);
+    return status;
 }
 
 int VORKTRReportingFile::RemoveFromReport()
 {
     VORUnicodeString path = _FilePath.c_str();
-    if (_Directory)
-        VORMakePath(*_Directory, _FilePath.c_str(), path);
-    return VORDeleteFile(path) == 0 ? VOR_S_OK : VOR_E_FAIL;
+    int status = _Directory ? VORMakePath(*_Directory, _FilePath.c_str(), path) : VOR_S_OK;
+    if (status >= 0)
+        status = VORDeleteFile(path);
+    if (_Buffer)
+        _Buffer->NoteWriteStatus(status);
+    return status == VOR_S_OK ? VOR_S_OK : VOR_E_FAIL;
 }
 
 int VORKTRReportingFile::GetType() const

@@ -100,11 +100,9 @@ void VORKTRReportingTitle::Report(unsigned int iFile, const char*, unsigned char
     AssertField(_Buffer, BufferAssertion, Source, 77);
     AssertField(_Title.get(), TitleAssertion, Source, 78);
     ++_Buffer->GetIndex();
-    // The files are numbered so that a new page takes over the number of the one it ends: the items
-    // that follow, given that number by the report, write into the new page.
     unsigned int file = iFile;
     if (iFrames && _Order < 3 && _Path)
-        NewPage(_Title.get(), file, _Path->ConvertToChar());
+        BreakPage(file);
 
     const VORUnicodeString anchor = Decimal(_Buffer->GetIndex());
     const VORUnicodeString order = Decimal(_Order);
@@ -115,21 +113,34 @@ void VORKTRReportingTitle::Report(unsigned int iFile, const char*, unsigned char
     WriteFragment(file, "\n<A NAME=\"", anchor, "\">", heading, "</A>\n");
 }
 
+// The files are numbered so that a new page takes over the number of the one it ends: the items
+// that follow, given that number by the report, write into the new page. A page that cannot be
+// opened keeps its number from every other file, so that what they write goes nowhere.
+void VORKTRReportingTitle::BreakPage(unsigned int& ioFile) const
+{
+    const int status = NewPage(_Title.get(), ioFile, _Path->ConvertToChar());
+    if (status < 0)
+        VORFReserve(ioFile, status);
+}
+
 int VORKTRReportingTitle::NewPage(const VORUnicodeString* iTitle, unsigned int& ioFile,
                                   const char* iPath) const
 {
     AssertField(_Buffer, BufferAssertion, Source, 129);
     if (!iTitle)
         return VOR_E_INVALIDARG;
-    ClosePage(ioFile);
-    VORUnicodeString path;
-    VORMakePath(iPath, PageName(++_Buffer->GetPagesNumber()), path);
-    const int status = VORFOpen(path, "w", ioFile);
-    if (status < 0)
-        return status;
-    WritePageHead(ioFile, *iTitle, ChoosePageBackground(iPath));
-    _Buffer->GetIndex() = 0;
-    return VOR_S_OK;
+    int failure = VOR_S_OK;
+    VORUnicodeString path; // made before the close: nothing may fail between it and the open
+    Noted(failure, VORMakePath(iPath, PageName(_Buffer->GetPagesNumber() + 1), path));
+    Noted(failure, ClosePage(ioFile));
+    ++_Buffer->GetPagesNumber();
+    const int status = Noted(failure, VORFOpen(path, "w", ioFile));
+    if (status >= 0) {
+        WritePageHead(ioFile, *iTitle, ChoosePageBackground(iPath, failure));
+        _Buffer->GetIndex() = 0;
+    }
+    _Buffer->NoteWriteStatus(failure);
+    return status < 0 ? status : VOR_S_OK;
 }
 
 void VORKTRReportingTitle::ASCIIReport(VORUnicodeString& ioText) const

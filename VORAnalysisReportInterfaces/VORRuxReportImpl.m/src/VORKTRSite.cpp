@@ -1,8 +1,11 @@
 #include "VORKTRSite.h"
 
+#include <utility>
+
 #include "VOREnvironment.h"
 #include "VORFile.h"
 #include "VORKTRFragment.h"
+#include "VORKTRStylesheets.h"
 #include "VORPath.h"
 
 namespace
@@ -62,6 +65,58 @@ VORUnicodeString TwoFrames(const VORUnicodeString& iTextSource)
         .Append(TextFrame(iTextSource));
 }
 
+/// A file of the site, closed at the end whatever happens.
+struct SiteFile {
+    SiteFile() = default;
+    SiteFile(const SiteFile&) = delete;
+    SiteFile& operator=(const SiteFile&) = delete;
+    ~SiteFile() { Close(); }
+
+    int Close() { return handle == 0 ? VOR_S_OK : VORFClose(std::exchange(handle, 0)); }
+
+    unsigned int handle = 0;
+};
+
+int OpenSiteFile(const VORUnicodeString& iDirectory, const VORUnicodeString& iName,
+                 unsigned int& oFile, int& ioFailure)
+{
+    VORUnicodeString path;
+    const int status = Noted(ioFailure, VORMakePath(iDirectory, iName, path));
+    if (status < 0)
+        return status;
+    return Noted(ioFailure, VORFOpen(path, "w", oFile)) < 0 ? VOR_E_FAIL : VOR_S_OK;
+}
+
+// A whole file, written by iWrite(handle).
+template <typename Write>
+int WriteSiteFile(const VORUnicodeString& iDirectory, const char* iName, int& ioFailure,
+                  Write&& iWrite)
+{
+    SiteFile file;
+    const int status = OpenSiteFile(iDirectory, iName, file.handle, ioFailure);
+    if (status < 0)
+        return status;
+    iWrite(file.handle);
+    Noted(ioFailure, file.Close());
+    return VOR_S_OK;
+}
+
+int WriteStylesheet(const VORUnicodeString& iDirectory, const char* iName, const char* iText,
+                    int& ioFailure)
+{
+    return WriteSiteFile(iDirectory, iName, ioFailure,
+                         [&](unsigned int iFile) { WriteFragment(iFile, iText); });
+}
+
+void WriteNavigationHead(unsigned int iFile, const VORUnicodeString& iTitle,
+                         const VORUnicodeString& iBackground)
+{
+    WriteFragment(iFile, HeadStart(iTitle), "<BASE TARGET=\"TextFrame\">\n",
+                  StylesheetLink(NavigationStylesName), EndOfHead, "\n",
+                  BodyStart(iBackground, " ALINK=\"#0000FF\""), "<A HREF=\"", PageName(1),
+                  "\"><NOBR><H1>", iTitle, "</H1></NOBR></A>\n");
+}
+
 } // namespace
 
 VORUnicodeString Decimal(int iNumber)
@@ -76,14 +131,11 @@ VORUnicodeString PageName(int iNumber)
     return VORUnicodeString("page").Append(Decimal(iNumber)).Append(".html");
 }
 
-int OpenSiteFile(const VORUnicodeString& iDirectory, const VORUnicodeString& iName,
-                 unsigned int& oFile)
+int Noted(int& ioFailure, int iStatus)
 {
-    VORUnicodeString path;
-    const int status = VORMakePath(iDirectory, iName, path);
-    if (status < 0)
-        return status;
-    return VORFOpen(path, "w", oFile) < 0 ? VOR_E_FAIL : VOR_S_OK;
+    if (iStatus < 0 && ioFailure >= 0)
+        ioFailure = iStatus;
+    return iStatus;
 }
 
 void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
@@ -99,35 +151,54 @@ void WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
                   "</P>\n");
 }
 
-void WriteNavigationHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                         const VORUnicodeString& iBackground)
-{
-    WriteFragment(iFile, HeadStart(iTitle), "<BASE TARGET=\"TextFrame\">\n",
-                  StylesheetLink(NavigationStylesName), EndOfHead, "\n",
-                  BodyStart(iBackground, " ALINK=\"#0000FF\""), "<A HREF=\"", PageName(1),
-                  "\"><NOBR><H1>", iTitle, "</H1></NOBR></A>\n");
-}
-
-void ClosePage(unsigned int iFile)
+int ClosePage(unsigned int iFile)
 {
     WriteFragment(iFile, "</BODY>\n</HTML>\n");
-    VORFClose(iFile);
+    return VORFClose(iFile);
 }
 
-void WriteIndexFrames(unsigned int iFile, const VORUnicodeString& iTitle)
+int WriteStylesheets(const VORUnicodeString& iDirectory, bool iWithNavigation, int& ioFailure)
 {
-    WriteFragment(iFile, HeadStart(iTitle), EndOfHead, "\n", TwoFrames(PageName(1)), EndOfFrames);
+    const int status = WriteStylesheet(iDirectory, MainStylesName, MainStyles, ioFailure);
+    if (status < 0 || !iWithNavigation)
+        return status;
+    return WriteStylesheet(iDirectory, NavigationStylesName, NavigationStyles, ioFailure);
 }
 
-void WriteReloadFrames(unsigned int iFile, const VORUnicodeString& iTitle, bool iFrames, int iPage,
-                       int iAnchor)
+int OpenFrames(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
+               const VORUnicodeString& iBackground, unsigned int& oNavigationFile,
+               unsigned int& oPageFile, int& ioFailure)
 {
-    WriteFragment(iFile, HeadStart(iTitle), EndOfHead, " \n");
-    const VORUnicodeString anchor = VORUnicodeString("#").Append(Decimal(iAnchor));
-    if (iFrames)
-        WriteFragment(iFile, TwoFrames(PageName(iPage) + anchor));
-    else // the second frame only makes it a frame set
-        WriteFragment(iFile, "<FRAMESET ROWS=\"*,1\" BORDER=0>\n", TextFrame(IndexName + anchor),
-                      "<FRAME NAME=\"OtherFrame\">\n");
-    WriteFragment(iFile, EndOfFrames);
+    int status = WriteSiteFile(iDirectory, IndexName, ioFailure, [&](unsigned int iFile) {
+        WriteFragment(iFile, HeadStart(iTitle), EndOfHead, "\n", TwoFrames(PageName(1)),
+                      EndOfFrames);
+    });
+    if (status < 0)
+        return status;
+
+    status = OpenSiteFile(iDirectory, NavigationName, oNavigationFile, ioFailure);
+    if (status < 0)
+        return status;
+    WriteNavigationHead(oNavigationFile, iTitle, iBackground);
+
+    status = OpenSiteFile(iDirectory, PageName(1), oPageFile, ioFailure);
+    if (status < 0)
+        return status;
+    WriteFirstPageHead(oPageFile, iTitle, iBackground);
+    return VOR_S_OK;
+}
+
+int WriteReloadPage(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
+                    const ReloadPlace& iPlace, int& ioFailure)
+{
+    return WriteSiteFile(iDirectory, ReloadName, ioFailure, [&](unsigned int iFile) {
+        WriteFragment(iFile, HeadStart(iTitle), EndOfHead, " \n");
+        const VORUnicodeString anchor = VORUnicodeString("#").Append(Decimal(iPlace.anchor));
+        if (iPlace.hasFrames)
+            WriteFragment(iFile, TwoFrames(PageName(iPlace.page) + anchor));
+        else // the second frame only makes it a frame set
+            WriteFragment(iFile, "<FRAMESET ROWS=\"*,1\" BORDER=0>\n",
+                          TextFrame(IndexName + anchor), "<FRAME NAME=\"OtherFrame\">\n");
+        WriteFragment(iFile, EndOfFrames);
+    });
 }

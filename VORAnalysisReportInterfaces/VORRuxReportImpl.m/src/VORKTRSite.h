@@ -17,10 +17,8 @@ VORUnicodeString Decimal(int iNumber);
 /// "page%d.html"
 VORUnicodeString PageName(int iNumber);
 
-/// Creates a file of the site. Returns 0, the failure of the path as it is, or 0x80004005 when the
-/// file cannot be opened.
-int OpenSiteFile(const VORUnicodeString& iDirectory, const VORUnicodeString& iName,
-                 unsigned int& oFile);
+/// Returns a status, which becomes ioFailure when it is the first negative one.
+int Noted(int& ioFailure, int iStatus);
 
 /// Each writes the beginning of a page in one write; titles and backgrounds go in as they stand.
 void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
@@ -28,18 +26,31 @@ void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
 /// The first page: head and main title.
 void WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
                         const VORUnicodeString& iBackground);
-/// The navigation page: head and the link to the first page.
-void WriteNavigationHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                         const VORUnicodeString& iBackground);
 
-/// Ends a page and closes it.
-void ClosePage(unsigned int iFile);
+/// Ends a page and closes it. Returns the status of the close.
+int ClosePage(unsigned int iFile);
 
-/// The whole frame set of a site that opens at the first page.
-void WriteIndexFrames(unsigned int iFile, const VORUnicodeString& iTitle);
+// What follows returns 0, the failure of a path as it is, or 0x80004005 when a file cannot be
+// opened. ioFailure notes every failure, also of a close, by its own status.
 
-/// The frame set that opens a site at iAnchor, of page iPage when it has frames.
-void WriteReloadFrames(unsigned int iFile, const VORUnicodeString& iTitle, bool iFrames, int iPage,
-                       int iAnchor);
+/// Writes "main.css" and, when asked to, "navigation.css".
+int WriteStylesheets(const VORUnicodeString& iDirectory, bool iWithNavigation, int& ioFailure);
+
+/// Writes the frame set of a site that opens at its first page, and opens that page and the
+/// navigation page, their heads written. A file opened before a failure stays open.
+int OpenFrames(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
+               const VORUnicodeString& iBackground, unsigned int& oNavigationFile,
+               unsigned int& oPageFile, int& ioFailure);
+
+/// Where "reload.html" opens a site: at an anchor, of a page when there are frames.
+struct ReloadPlace {
+    bool hasFrames;
+    int page;
+    int anchor;
+};
+
+/// Writes "reload.html".
+int WriteReloadPage(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
+                    const ReloadPlace& iPlace, int& ioFailure);
 
 #endif
