@@ -4,7 +4,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <iterator>
 #include <string>
@@ -219,11 +218,10 @@ std::string PrintfConversion(const Format& iFormat)
 template <typename Number>
 void PutPrintf(Output& ioOutput, const Format& iFormat, Number iValue)
 {
-    const VORLayer::NumericCLocale locale;
     const std::string conversion = PrintfConversion(iFormat);
-    const int length = std::snprintf(nullptr, 0, conversion.c_str(), iValue);
+    const int length = VORLayer::PrintNumber(nullptr, 0, conversion.c_str(), iValue);
     std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    std::snprintf(text.data(), text.size(), conversion.c_str(), iValue);
+    VORLayer::PrintNumber(text.data(), text.size(), conversion.c_str(), iValue);
     text.pop_back();
     ioOutput.Put(text);
 }

@@ -53,18 +53,11 @@ int RunCommand(const char* iCommand);
 unsigned long ProcessId();
 /// @}
 
-/// The calling thread under the numeric locale "C"; other threads keep theirs.
-class NumericCLocale
-{
-public:
-    NumericCLocale();
-    ~NumericCLocale();
-    NumericCLocale(const NumericCLocale&) = delete;
-    NumericCLocale& operator=(const NumericCLocale&) = delete;
-
-private:
-    void* _Previous;
-};
+/// @{ What snprintf gives for one number, under the numeric locale "C" whatever is set. iConversion
+/// is a conversion of that type alone, without ' and length modifiers.
+int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, int iNumber);
+int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, double iNumber);
+/// @}
 
 } // namespace VORLayer
 
