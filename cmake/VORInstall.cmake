@@ -1,28 +1,63 @@
 # Installation and packages. Components: Runtime (the libraries), Development (headers, CMake package,
-# pkg-config file), Documentation.
+# pkg-config files), Kit (all of VORReportKit), Documentation.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
+# The way from a pkg-config file up to the prefix, so that the prefix can be moved.
+file(RELATIVE_PATH VOR_PREFIX_FROM_PC /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 
-# Installs a library and its folder of exported headers.
-function(vor_install_library target)
-    install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
-        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-            COMPONENT Runtime NAMELINK_COMPONENT Development
-        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target})
-    install(DIRECTORY ${target}/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target}
-        COMPONENT Development FILES_MATCHING PATTERN "*.h")
-    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+# Links a library of the project to another one, for its users too. A layer of somebody else in the
+# place of VORSystem is not installed: who uses the installed library links that layer as well.
+function(vor_link_libraries target library)
+    get_property(installed GLOBAL PROPERTY VOR_INSTALLED)
+    if(library IN_LIST installed OR NOT VOR_INSTALL)
+        target_link_libraries(${target} PUBLIC VOR::${library})
+        set_property(TARGET ${target} APPEND_STRING PROPERTY VOR_REQUIRES "${library} ")
+    else()
+        target_link_libraries(${target} PUBLIC $<BUILD_INTERFACE:VOR::${library}>)
+    endif()
 endfunction()
 
-vor_install_library(VORSystem)
-vor_install_library(VORAnalysisReportInterfaces)
+# Installs a library, its folder of exported headers and its pkg-config file; with a component named,
+# all in that one.
+function(vor_install_library target VOR_DESCRIPTION)
+    if(NOT VOR_INSTALL)
+        return()
+    endif()
+    set(runtime Runtime)
+    set(development Development)
+    if(ARGC GREATER 2)
+        set(runtime ${ARGV2})
+        set(development ${ARGV2})
+    endif()
+    set_property(GLOBAL APPEND PROPERTY VOR_INSTALLED ${target})
+    install(TARGETS ${target} EXPORT ${target}Targets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${development}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+            COMPONENT ${runtime} NAMELINK_COMPONENT ${development}
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target})
+    install(EXPORT ${target}Targets NAMESPACE VOR:: DESTINATION ${package_directory}
+        COMPONENT ${development})
+    install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target}
+        COMPONENT ${development} FILES_MATCHING PATTERN "*.h")
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
 
-install(EXPORT ${PROJECT_NAME}Targets NAMESPACE VOR:: DESTINATION ${package_directory}
-    COMPONENT Development)
+    set(VOR_TARGET ${target})
+    get_target_property(VOR_REQUIRES ${target} VOR_REQUIRES)
+    if(NOT VOR_REQUIRES)
+        set(VOR_REQUIRES "")
+    endif()
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${target}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ${development})
+endfunction()
+
+if(NOT VOR_INSTALL)
+    return()
+endif()
+
 configure_package_config_file(cmake/${PROJECT_NAME}Config.cmake.in
     ${PROJECT_BINARY_DIR}/${PROJECT_NAME}Config.cmake INSTALL_DESTINATION ${package_directory})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
@@ -31,12 +66,6 @@ install(FILES
     ${PROJECT_BINARY_DIR}/${PROJECT_NAME}Config.cmake
     ${PROJECT_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
     DESTINATION ${package_directory} COMPONENT Development)
-
-# The way from the pkg-config file up to the prefix, so that the prefix can be moved.
-file(RELATIVE_PATH VOR_PREFIX_FROM_PC /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
-configure_file(cmake/${PROJECT_NAME}.pc.in ${PROJECT_BINARY_DIR}/${PROJECT_NAME}.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/${PROJECT_NAME}.pc
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
     COMPONENT Documentation)

@@ -14,8 +14,8 @@ function(vor_configure_target target)
     endif()
 endfunction()
 
-# A library of the project. A shared one exports what its exports.map lists, and is versioned by the
-# project's major version.
+# A library of the project. A shared one exports what its exports.map lists; a program runs with the
+# minor version that it was built with.
 function(vor_configure_library target)
     vor_configure_target(${target})
     set(exports ${CMAKE_CURRENT_SOURCE_DIR}/exports.map)
@@ -25,5 +25,5 @@ function(vor_configure_library target)
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR})
+        SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 endfunction()

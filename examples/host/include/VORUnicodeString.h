@@ -1,0 +1,43 @@
+#ifndef VORUnicodeString_h
+#define VORUnicodeString_h
+
+#include <cstddef>
+#include <string>
+
+using VORUnicodeChar = char32_t;
+
+std::size_t VORCountChars(const char* iText, std::size_t iLength);
+
+/// UTF-8 in a std::string. Lengths in characters are counted when they are asked for.
+class VORUnicodeString
+{
+public:
+    VORUnicodeString() = default;
+    VORUnicodeString(const char* iText) : _Bytes(iText ? iText : "") {}
+    VORUnicodeString(const char* iText, int iLength);
+    VORUnicodeString(VORUnicodeChar iChar, int iCount);
+
+    VORUnicodeString& Append(const VORUnicodeString& iText);
+    VORUnicodeString& operator+=(const VORUnicodeString& iText) { return Append(iText); }
+
+    int GetLengthInChar() const;
+    int GetLengthInByte() const { return static_cast<int>(_Bytes.size()); }
+    const char* ConvertToChar() const { return _Bytes.c_str(); }
+    const char* CastToCharPtr() const { return ConvertToChar(); }
+
+    void BuildFromNum(int iValue, const char* iFormat);
+    void ReplaceSubString(int iPosition, int iLength, const VORUnicodeString& iBy);
+    void ReplaceAll(const VORUnicodeString& iWhat, const VORUnicodeString& iBy);
+
+    bool operator==(const VORUnicodeString& iOther) const { return _Bytes == iOther._Bytes; }
+    bool operator!=(const VORUnicodeString& iOther) const { return _Bytes != iOther._Bytes; }
+    bool operator==(const char* iOther) const { return _Bytes == (iOther ? iOther : ""); }
+    bool operator!=(const char* iOther) const { return !(*this == iOther); }
+
+private:
+    std::string _Bytes;
+};
+
+VORUnicodeString operator+(const VORUnicodeString& iLeft, const VORUnicodeString& iRight);
+
+#endif
