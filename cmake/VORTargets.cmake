@@ -8,9 +8,9 @@ function(vor_configure_target target)
                            -Wnon-virtual-dtor -Wold-style-cast
                            $<$<BOOL:${VOR_WERROR}>:-Werror>)
     if(VOR_SANITIZE)
-        target_compile_options(${target} PRIVATE -fsanitize=address,undefined
+        target_compile_options(${target} PRIVATE -fsanitize=${VOR_SANITIZE}
                                -fno-sanitize-recover=all -fno-omit-frame-pointer)
-        target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+        target_link_options(${target} PRIVATE -fsanitize=${VOR_SANITIZE})
     endif()
 endfunction()
 
