@@ -25,6 +25,10 @@ public:
     /// control. The last argument is reserved.
     static int StartBrowser(const VORUnicodeString& page, unsigned char);
 
+    /// Appends iText to ioHtml as a paragraph writes it: '&', '<' and '>' escaped, a line feed as a
+    /// break of the line, a tab as five blanks. For items of an application's own.
+    static void AppendEscaped(VORUnicodeString& ioHtml, const VORUnicodeString& iText);
+
 private:
     static std::atomic<int> _figureNb;
 };

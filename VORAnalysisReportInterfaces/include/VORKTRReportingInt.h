@@ -2,7 +2,7 @@
 #define VORKTRReportingInt_h
 
 #include "VORKTRReportingObj.h"
-#include "VORString.h"
+#include "VORNumberFormat.h"
 
 /// An integer with its printf format (see VORFormatInt, which says what becomes of an unfit one).
 class VORKTR_EXPORT VORKTRReportingInt : public VORKTRReportingObj
@@ -26,10 +26,8 @@ public:
                         unsigned int iNavigationFile, char hasFloats) const override;
 
 private:
-    VORUnicodeString GetText() const;
-
     int _Value;
-    VORString _Format;
+    VORIntFormat _Format;
 };
 
 #endif

@@ -6,6 +6,8 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "VORSystemExport.h"
 
@@ -28,6 +30,13 @@ public:
     VORUnicodeString(const char* iText);
     /// From the first iLength bytes of iText, or from all of it when its NUL comes earlier.
     VORUnicodeString(const char* iText, int iLength);
+    /// @{ From UTF-8 that may hold NULs.
+    VORUnicodeString(std::string iText)
+        : _Bytes(std::move(iText)), _Length(VORCountChars(_Bytes.data(), _Bytes.size()))
+    {
+    }
+    explicit VORUnicodeString(std::string_view iText) : VORUnicodeString(std::string(iText)) {}
+    /// @}
     /// iChar repeated iCount times; a count below 1 gives the empty text. What is no code point
     /// becomes U+FFFD.
     VORUnicodeString(VORUnicodeChar iChar, int iCount);
@@ -43,7 +52,14 @@ public:
     /// @{ Adds iText at the end, in amortised constant time for each byte.
     VORUnicodeString& Append(const VORUnicodeString& iText);
     VORUnicodeString& operator+=(const VORUnicodeString& iText) { return Append(iText); }
+    VORUnicodeString& AppendBytes(std::string_view iText)
+    {
+        return Append(iText.data(), iText.size(), VORCountChars(iText.data(), iText.size()));
+    }
     /// @}
+
+    /// Makes room for iBytes more bytes, so that adding them moves nothing.
+    void ReserveMore(std::size_t iBytes);
 
     /// The character at iPosition; 0 when the position is out of range. Constant time on ASCII
     /// text.
@@ -58,7 +74,10 @@ public:
     /// destroyed.
     const char* ConvertToChar() const { return _Bytes.c_str(); }
     const char* CastToCharPtr() const { return ConvertToChar(); }
+    std::string_view GetView() const { return _Bytes; }
     /// @}
+    /// The UTF-8 bytes, copied.
+    std::string ToString() const { return _Bytes; }
 
     /// Replaces the text by iValue in the printf format iFormat (see VORFormatInt).
     void BuildFromNum(int iValue, const char* iFormat);
@@ -83,7 +102,7 @@ public:
     /// @}
 
 private:
-    explicit VORUnicodeString(std::string&& ioBytes);
+    VORUnicodeString& Append(const char* iText, std::size_t iBytes, std::size_t iLength);
     std::size_t ByteOffset(int iPosition) const;
     std::size_t FindBytes(const std::string& iWhat, std::size_t iFromByte) const;
     bool IsBoundary(std::size_t iByte) const;

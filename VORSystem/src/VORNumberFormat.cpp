@@ -1,12 +1,12 @@
 #include "VORNumberFormat.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <iterator>
-#include <string>
 #include <string_view>
 
 #include "VORSystemLayer.h"
@@ -16,10 +16,9 @@ namespace
 
 constexpr std::string_view Flags = "-+ #0'";
 constexpr std::string_view LengthModifiers = "hlLqjzt";
-constexpr std::string_view IntConversions = "diuoxXc";
-constexpr std::string_view FloatConversions = "fFeEgGaA";
-constexpr int LargestField = 4095; // what every C library can print in one conversion
-constexpr int NotGiven = -1;
+constexpr const char* IntConversions = "diuoxXc";
+constexpr const char* FloatConversions = "fFeEgGaA";
+constexpr short LargestField = 4095; // what every C library can print in one conversion
 
 // A plain loop: a call of the library to search so few characters costs more than the search.
 constexpr bool IsOneOf(char iChar, std::string_view iSet)
@@ -36,18 +35,6 @@ bool IsDigit(char iChar)
     return iChar >= '0' && iChar <= '9';
 }
 
-struct Format {
-    std::string_view before; // text around the conversion, "%%" still doubled
-    std::string_view after;
-    bool left = false;
-    bool zero = false;
-    bool alternate = false;
-    char plus = '\0'; // sign of a number that is not negative
-    int width = NotGiven;
-    int precision = NotGiven;
-    char conversion = '\0'; // none: the format is text alone
-};
-
 // Up to the next conversion or the end; null at a '%' that ends the format.
 const char* SkipText(const char* iAt)
 {
@@ -61,71 +48,68 @@ const char* SkipText(const char* iAt)
     return iAt;
 }
 
-bool ReadNumber(const char*& ioAt, int& oNumber)
+bool ReadNumber(const char*& ioAt, short& oNumber)
 {
-    oNumber = 0;
+    int number = 0;
     for (; IsDigit(*ioAt); ++ioAt) {
-        oNumber = oNumber * 10 + (*ioAt - '0');
-        if (oNumber > LargestField)
+        number = number * 10 + (*ioAt - '0');
+        if (number > LargestField)
             return false;
     }
+    oNumber = static_cast<short>(number);
     return true;
 }
 
-void ReadFlags(const char*& ioAt, Format& oFormat)
+void ReadFlags(const char*& ioAt, VORFormatParts& oParts)
 {
     for (; *ioAt && IsOneOf(*ioAt, Flags); ++ioAt) {
-        oFormat.left |= *ioAt == '-';
-        oFormat.zero |= *ioAt == '0';
-        oFormat.alternate |= *ioAt == '#';
-        if (*ioAt == '+' || (*ioAt == ' ' && oFormat.plus == '\0'))
-            oFormat.plus = *ioAt;
+        oParts.left |= *ioAt == '-';
+        oParts.zero |= *ioAt == '0';
+        oParts.alternate |= *ioAt == '#';
+        if (*ioAt == '+' || (*ioAt == ' ' && oParts.plus == '\0'))
+            oParts.plus = *ioAt;
     }
 }
 
-bool ReadConversion(const char*& ioAt, std::string_view iConversions, Format& oFormat)
+bool ReadConversion(const char*& ioAt, std::string_view iConversions, VORFormatParts& oParts)
 {
-    ReadFlags(++ioAt, oFormat);
-    if (IsDigit(*ioAt) && !ReadNumber(ioAt, oFormat.width))
+    ReadFlags(++ioAt, oParts);
+    if (IsDigit(*ioAt) && !ReadNumber(ioAt, oParts.width))
         return false;
-    if (*ioAt == '.' && !ReadNumber(++ioAt, oFormat.precision))
+    if (*ioAt == '.' && !ReadNumber(++ioAt, oParts.precision))
         return false;
     while (*ioAt && IsOneOf(*ioAt, LengthModifiers))
         ++ioAt;
-    oFormat.conversion = *ioAt;
+    oParts.conversion = *ioAt;
     return *ioAt && IsOneOf(*ioAt++, iConversions);
 }
 
-std::string_view Span(const char* iBegin, const char* iEnd)
+bool Read(const char* iFormat, std::string_view iConversions, VORFormatParts& oParts)
 {
-    return {iBegin, static_cast<std::size_t>(iEnd - iBegin)};
-}
-
-bool Parse(const char* iFormat, std::string_view iConversions, Format& oFormat)
-{
-    const char* at = iFormat ? SkipText(iFormat) : nullptr;
+    const char* at = SkipText(iFormat);
     if (!at)
         return false;
-    oFormat.before = Span(iFormat, at);
+    oParts.before = static_cast<std::size_t>(at - iFormat);
+    oParts.after = oParts.before;
     if (!*at)
         return true;
-    if (!ReadConversion(at, iConversions, oFormat))
+    if (!ReadConversion(at, iConversions, oParts))
         return false;
+    oParts.after = static_cast<std::size_t>(at - iFormat);
     const char* const end = SkipText(at);
-    if (!end || *end)
-        return false;
-    oFormat.after = Span(at, end);
-    return true;
+    return end && !*end;
 }
 
-Format ParseOr(const char* iFallback, const char* iFormat, std::string_view iConversions)
+// Those of the conversion alone when the format is unfit.
+VORFormatParts PartsOf(const char* iFormat, const char* iDefault, std::string_view iConversions)
 {
-    Format format;
-    if (!Parse(iFormat, iConversions, format)) {
-        format = Format();
-        Parse(iFallback, iConversions, format);
-    }
-    return format;
+    VORFormatParts parts;
+    if (Read(iFormat, iConversions, parts))
+        return parts;
+    parts = VORFormatParts();
+    parts.conversion = iDefault[1];
+    parts.after = std::strlen(iFormat);
+    return parts;
 }
 
 // Bounded text that goes on counting when it is full, as snprintf does.
@@ -161,6 +145,16 @@ public:
         Put(iText);
     }
 
+    // printf straight into what is left of the text.
+    template <typename Number>
+    void PutPrintf(const char* iConversion, Number iValue)
+    {
+        const std::size_t room = _Length < _Room ? _Room - _Length + 1 : 0;
+        const int length =
+            VORLayer::PrintNumber(room > 0 ? _Text + _Length : nullptr, room, iConversion, iValue);
+        _Length += static_cast<std::size_t>(length);
+    }
+
     int Finish()
     {
         if (_Room > 0)
@@ -175,143 +169,278 @@ private:
 };
 
 // Places "-12.5" or "12.5" in the field that the format asks for.
-void PutPadded(Output& ioOutput, const Format& iFormat, std::string_view iNumber)
+void PutPadded(Output& ioOutput, const VORFormatParts& iParts, std::string_view iNumber)
 {
-    char sign = iFormat.plus;
+    char sign = iParts.plus;
     if (iNumber.front() == '-') {
         sign = '-';
         iNumber.remove_prefix(1);
     }
     const std::size_t length = iNumber.size() + (sign ? 1 : 0);
-    const auto width = static_cast<std::size_t>(std::max(iFormat.width, 0));
+    const auto width = static_cast<std::size_t>(std::max<short>(iParts.width, 0));
     const std::size_t padding = width > length ? width - length : 0;
-    if (!iFormat.left && !iFormat.zero)
+    if (!iParts.left && !iParts.zero)
         ioOutput.Put(' ', padding);
     if (sign)
         ioOutput.Put(sign, 1);
-    if (!iFormat.left && iFormat.zero)
+    if (!iParts.left && iParts.zero)
         ioOutput.Put('0', padding);
     ioOutput.Put(iNumber);
-    if (iFormat.left)
+    if (iParts.left)
         ioOutput.Put(' ', padding);
 }
 
-// Put together anew from what was checked, so that nothing else of the caller's reaches printf.
-std::string PrintfConversion(const Format& iFormat)
+constexpr const char* LengthModifierOf(long long)
 {
-    std::string text = "%";
-    if (iFormat.left)
-        text += '-';
-    if (iFormat.zero)
-        text += '0';
-    if (iFormat.alternate)
-        text += '#';
-    if (iFormat.plus)
-        text += iFormat.plus;
-    if (iFormat.width != NotGiven)
-        text += std::to_string(iFormat.width);
-    if (iFormat.precision != NotGiven)
-        text += '.' + std::to_string(iFormat.precision);
-    return text + iFormat.conversion;
+    return "ll";
 }
 
 template <typename Number>
-void PutPrintf(Output& ioOutput, const Format& iFormat, Number iValue)
+constexpr const char* LengthModifierOf(Number)
 {
-    const std::string conversion = PrintfConversion(iFormat);
-    const int length = VORLayer::PrintNumber(nullptr, 0, conversion.c_str(), iValue);
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    VORLayer::PrintNumber(text.data(), text.size(), conversion.c_str(), iValue);
-    text.pop_back();
-    ioOutput.Put(text);
+    return "";
 }
 
-std::to_chars_result Convert(char* oBegin, char* oEnd, const Format&, int iValue)
+// Put together anew from what was checked, so that nothing else of the caller's reaches printf.
+template <typename Number>
+void PutPrintf(Output& ioOutput, const VORFormatParts& iParts, Number iValue)
+{
+    char conversion[24];
+    Output text(conversion, sizeof conversion);
+    const auto putIf = [&text](bool iGiven, char iChar) { text.Put(iChar, iGiven ? 1 : 0); };
+    const auto putNumber = [&text](int iNumber) {
+        char digits[8];
+        text.Put({digits, static_cast<std::size_t>(
+                              std::to_chars(digits, std::end(digits), iNumber).ptr - digits)});
+    };
+    text.Put('%', 1);
+    putIf(iParts.left, '-');
+    putIf(iParts.zero, '0');
+    putIf(iParts.alternate, '#');
+    putIf(iParts.plus != '\0', iParts.plus);
+    if (iParts.width >= 0)
+        putNumber(iParts.width);
+    putIf(iParts.precision >= 0, '.');
+    if (iParts.precision >= 0)
+        putNumber(iParts.precision);
+    text.Put(LengthModifierOf(iValue));
+    text.Put(iParts.conversion, 1);
+    text.Finish();
+    ioOutput.PutPrintf(conversion, iValue);
+}
+
+constexpr auto PowersOfTen = [] {
+    std::array<std::uint64_t, 16> powers{1};
+    for (std::size_t i = 1; i < powers.size(); ++i)
+        powers[i] = powers[i - 1] * 10;
+    return powers;
+}();
+
+// "00", "01" to "99", one after the other.
+constexpr auto Pairs = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < pairs.size(); ++i)
+        pairs[i] = static_cast<char>('0' + (i % 2 == 0 ? i / 20 : i / 2 % 10));
+    return pairs;
+}();
+
+/// A number that is an integer once its point is moved: a float in "%.3f" or its like, which is
+/// what reports are made of. Integer arithmetic gives the digits of to_chars several times as fast.
+class ScaledNumber
+{
+public:
+    static constexpr std::size_t LongestText = 20; // sign, 16 digits, point, NUL
+
+    /// True when scaling the number to an integer is exact: it was a float, whose 24 bits and the
+    /// 28 of 5^12 fit a double.
+    static bool Fits(double iValue, int iPrecision)
+    {
+        constexpr int largestPrecision = 12;
+        constexpr double largest = 9e15; // below 2^53
+        return iPrecision <= largestPrecision &&
+               std::abs(iValue) * PowerOfTen(iPrecision) < largest &&
+               static_cast<double>(static_cast<float>(iValue)) == iValue;
+    }
+
+    ScaledNumber(double iValue, int iPrecision)
+        : _Digits(Round(std::abs(iValue) * PowerOfTen(iPrecision))), _Precision(iPrecision),
+          _Count(iPrecision + 1), _Negative(std::signbit(iValue) ? 1 : 0)
+    {
+        for (auto count = static_cast<std::size_t>(_Count);
+             count < PowersOfTen.size() && _Digits >= PowersOfTen[count]; ++count)
+            ++_Count;
+    }
+
+    int GetLength() const { return _Negative + _Count + (_Precision > 0 ? 1 : 0); }
+
+    char* Write(char* oText) const
+    {
+        std::uint64_t rest = _Digits;
+        char* at = oText + GetLength();
+        at = PutDigits(at, rest, _Precision);
+        if (_Precision > 0)
+            *--at = '.';
+        PutDigits(at, rest, _Count - _Precision);
+        if (_Negative)
+            *oText = '-';
+        return oText + GetLength();
+    }
+
+private:
+    static double PowerOfTen(int iExponent)
+    {
+        return static_cast<double>(PowersOfTen[static_cast<std::size_t>(iExponent)]);
+    }
+
+    // To the nearest integer, a half to the even one, whatever the rounding mode.
+    static std::uint64_t Round(double iScaled)
+    {
+        const auto whole = static_cast<std::int64_t>(iScaled);
+        const double rest = iScaled - static_cast<double>(whole);
+        const bool isUp = rest > 0.5 || (rest == 0.5 && whole % 2 != 0);
+        return static_cast<std::uint64_t>(whole + (isUp ? 1 : 0));
+    }
+
+    // The last iCount digits of ioNumber, which loses them, in front of iEnd.
+    static char* PutDigits(char* iEnd, std::uint64_t& ioNumber, int iCount)
+    {
+        for (; iCount >= 2; iCount -= 2) {
+            std::memcpy(iEnd -= 2, &Pairs[ioNumber % 100 * 2], 2);
+            ioNumber /= 100;
+        }
+        if (iCount > 0) {
+            *--iEnd = static_cast<char>('0' + ioNumber % 10);
+            ioNumber /= 10;
+        }
+        return iEnd;
+    }
+
+    std::uint64_t _Digits;
+    int _Precision;
+    int _Count; // of all digits
+    int _Negative;
+};
+
+int PrecisionOf(const VORFormatParts& iParts)
+{
+    return iParts.precision < 0 ? 6 : iParts.precision;
+}
+
+template <typename Integer>
+std::to_chars_result Convert(char* oBegin, char* oEnd, const VORFormatParts&, Integer iValue)
 {
     return std::to_chars(oBegin, oEnd, iValue);
 }
 
-constexpr std::int64_t PowersOfTen[] = {
-    1,        10,        100,        1000,        10000,        100000,       1000000,
-    10000000, 100000000, 1000000000, 10000000000, 100000000000, 1000000000000};
-
-// True when scaling the number to an integer for this precision is exact: it was a float, whose 24
-// bits and the 28 of 5^12 fit a double.
-bool IsScaledExactly(double iValue, int iPrecision)
+std::to_chars_result Convert(char* oBegin, [[maybe_unused]] char* oEnd,
+                             const VORFormatParts& iParts, double iValue)
 {
-    constexpr double largest = 9e15; // below 2^53
-    return iPrecision < static_cast<int>(std::size(PowersOfTen)) &&
-           std::abs(iValue) * static_cast<double>(PowersOfTen[iPrecision]) < largest &&
-           static_cast<double>(static_cast<float>(iValue)) == iValue;
-}
-
-// Reports are made of such numbers: integer arithmetic is several times as fast as to_chars on
-// them, with the same digits.
-std::to_chars_result ConvertFixed(char* oBegin, char* oEnd, double iValue, int iPrecision)
-{
-    if (!IsScaledExactly(iValue, iPrecision))
-        return std::to_chars(oBegin, oEnd, iValue, std::chars_format::fixed, iPrecision);
-    const std::int64_t scale = PowersOfTen[iPrecision];
-    const std::int64_t scaled = std::llrint(std::abs(iValue) * static_cast<double>(scale));
-    if (std::signbit(iValue))
-        *oBegin++ = '-';
-    const std::to_chars_result whole = std::to_chars(oBegin, oEnd, scaled / scale);
-    if (iPrecision == 0)
-        return whole;
-    // A 1 ahead of the fraction keeps its zeros, and the place of the point.
-    const std::to_chars_result all = std::to_chars(whole.ptr, oEnd, scale + scaled % scale);
-    if (all.ec == std::errc())
-        *whole.ptr = '.';
-    return all;
-}
-
-std::to_chars_result Convert(char* oBegin, char* oEnd, const Format& iFormat, double iValue)
-{
-    const int precision = iFormat.precision == NotGiven ? 6 : iFormat.precision;
-    if (iFormat.conversion == 'f')
-        return ConvertFixed(oBegin, oEnd, iValue, precision);
-    const auto style =
-        iFormat.conversion == 'e' ? std::chars_format::scientific : std::chars_format::general;
+    const int precision = PrecisionOf(iParts);
+    if (iParts.conversion == 'f' && ScaledNumber::Fits(iValue, precision))
+        return {ScaledNumber(iValue, precision).Write(oBegin), std::errc()};
+#ifdef __cpp_lib_to_chars
+    const auto style = iParts.conversion == 'f'   ? std::chars_format::fixed
+                       : iParts.conversion == 'e' ? std::chars_format::scientific
+                                                  : std::chars_format::general;
     return std::to_chars(oBegin, oEnd, iValue, style, precision);
+#else
+    return {oBegin, std::errc::not_supported};
+#endif
 }
 
-bool IsPlain(const Format& iFormat, int)
+template <typename Integer>
+bool IsPlain(const VORFormatParts& iParts, Integer)
 {
-    return IsOneOf(iFormat.conversion, "di") && iFormat.precision == NotGiven;
+    return IsOneOf(iParts.conversion, "di") && iParts.precision < 0;
 }
 
-bool IsPlain(const Format& iFormat, double iValue)
+bool IsPlain(const VORFormatParts& iParts, double iValue)
 {
-    return IsOneOf(iFormat.conversion, "feg") && !iFormat.alternate && std::isfinite(iValue);
+    return IsOneOf(iParts.conversion, "feg") && !iParts.alternate && std::isfinite(iValue);
 }
 
 template <typename Number>
-int Write(const Format& iFormat, Number iValue, char* oText, std::size_t iSize)
+int Write(const char* iFormat, const VORFormatParts& iParts, Number iValue, char* oText,
+          std::size_t iSize)
 {
     Output output(oText, iSize);
-    output.PutFormatText(iFormat.before);
-    if (iFormat.conversion) {
+    output.PutFormatText({iFormat, iParts.before});
+    if (iParts.conversion) {
         char number[128];
         std::to_chars_result result = {number, std::errc::value_too_large};
-        if (IsPlain(iFormat, iValue))
-            result = Convert(number, std::end(number), iFormat, iValue);
+        if (IsPlain(iParts, iValue))
+            result = Convert(number, std::end(number), iParts, iValue);
         if (result.ec == std::errc())
-            PutPadded(output, iFormat, Span(number, result.ptr));
+            PutPadded(output, iParts, {number, static_cast<std::size_t>(result.ptr - number)});
         else
-            PutPrintf(output, iFormat, iValue);
-        output.PutFormatText(iFormat.after);
+            PutPrintf(output, iParts, iValue);
+        output.PutFormatText(iFormat + iParts.after);
     }
     return output.Finish();
 }
 
 } // namespace
 
+VORNumberFormat::VORNumberFormat(const char* iFormat, const char* iDefault,
+                                 const char* iConversions)
+    : _Text(iFormat ? iFormat : iDefault), _Parts(PartsOf(_Text.c_str(), iDefault, iConversions))
+{
+}
+
+VORIntFormat::VORIntFormat(const char* iFormat)
+    : VORNumberFormat(iFormat, VORDefaultIntFormat, IntConversions)
+{
+}
+
+int VORIntFormat::Write(int iValue, char* oText, std::size_t iSize) const
+{
+    return ::Write(_Text.c_str(), _Parts, iValue, oText, iSize);
+}
+
+int VORIntFormat::Write(long long iValue, char* oText, std::size_t iSize) const
+{
+    if (_Parts.conversion == 'c')
+        return Write(static_cast<int>(iValue), oText, iSize);
+    return ::Write(_Text.c_str(), _Parts, iValue, oText, iSize);
+}
+
+VORFloatFormat::VORFloatFormat(const char* iFormat)
+    : VORNumberFormat(iFormat, VORDefaultFloatFormat, FloatConversions),
+      _IsPlainFixed(_Parts.conversion == 'f' && !_Parts.alternate && !_Parts.plus &&
+                    _Parts.width < 0 && _Parts.before == 0 && _Parts.after == _Text.size())
+{
+}
+
+bool VORFloatFormat::IsScaled(double iValue) const
+{
+    return _IsPlainFixed && ScaledNumber::Fits(iValue, PrecisionOf(_Parts));
+}
+
+int VORFloatFormat::Write(double iValue, char* oText, std::size_t iSize) const
+{
+    if (iSize < ScaledNumber::LongestText || !IsScaled(iValue))
+        return ::Write(_Text.c_str(), _Parts, iValue, oText, iSize);
+    char* const end = ScaledNumber(iValue, PrecisionOf(_Parts)).Write(oText);
+    *end = '\0';
+    return static_cast<int>(end - oText);
+}
+
+int VORFloatFormat::GetLength(double iValue) const
+{
+    return IsScaled(iValue) ? ScaledNumber(iValue, PrecisionOf(_Parts)).GetLength()
+                            : Write(iValue, nullptr, 0);
+}
+
 int VORFormatInt(int iValue, const char* iFormat, char* oText, std::size_t iSize)
 {
-    return Write(ParseOr(VORDefaultIntFormat, iFormat, IntConversions), iValue, oText, iSize);
+    const char* const format = iFormat ? iFormat : VORDefaultIntFormat;
+    return Write(format, PartsOf(format, VORDefaultIntFormat, IntConversions), iValue, oText,
+                 iSize);
 }
 
 int VORFormatFloat(double iValue, const char* iFormat, char* oText, std::size_t iSize)
 {
-    return Write(ParseOr(VORDefaultFloatFormat, iFormat, FloatConversions), iValue, oText, iSize);
+    const char* const format = iFormat ? iFormat : VORDefaultFloatFormat;
+    return Write(format, PartsOf(format, VORDefaultFloatFormat, FloatConversions), iValue, oText,
+                 iSize);
 }

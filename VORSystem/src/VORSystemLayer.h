@@ -54,8 +54,9 @@ unsigned long ProcessId();
 /// @}
 
 /// @{ What snprintf gives for one number, under the numeric locale "C" whatever is set. iConversion
-/// is a conversion of that type alone, without ' and length modifiers.
+/// is a conversion of that type alone, without ' and length modifiers but the "ll" of a long long.
 int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, int iNumber);
+int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, long long iNumber);
 int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, double iNumber);
 /// @}
 

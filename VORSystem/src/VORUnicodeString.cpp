@@ -137,11 +137,6 @@ std::size_t VORCountChars(const char* iText, std::size_t iLength)
     return count;
 }
 
-VORUnicodeString::VORUnicodeString(std::string&& ioBytes)
-    : _Bytes(std::move(ioBytes)), _Length(VORCountChars(_Bytes.data(), _Bytes.size()))
-{
-}
-
 VORUnicodeString::VORUnicodeString(const char* iText)
     : VORUnicodeString(std::string(iText ? iText : ""))
 {
@@ -183,17 +178,30 @@ VORUnicodeString& VORUnicodeString::operator=(VORUnicodeString&& ioOther) noexce
 
 VORUnicodeString& VORUnicodeString::Append(const VORUnicodeString& iText)
 {
+    return Append(iText._Bytes.data(), iText._Bytes.size(), iText._Length);
+}
+
+// iLength is that of the added text by itself.
+VORUnicodeString& VORUnicodeString::Append(const char* iText, std::size_t iBytes,
+                                           std::size_t iLength)
+{
     const std::size_t open = OpenSequence(_Bytes);
     const std::size_t openBytes = _Bytes.size() - open;
-    const std::size_t addedLength = iText._Length;
-    _Bytes += iText._Bytes;
+    _Bytes.append(iText, iBytes);
     if (openBytes == 0) {
-        _Length += addedLength;
+        _Length += iLength;
     } else {
         // An unfinished sequence counted one for each of its bytes; the new bytes may complete it.
         _Length = _Length - openBytes + VORCountChars(_Bytes.data() + open, _Bytes.size() - open);
     }
     return *this;
+}
+
+void VORUnicodeString::ReserveMore(std::size_t iBytes)
+{
+    const std::size_t needed = _Bytes.size() + iBytes;
+    if (needed > _Bytes.capacity())
+        _Bytes.reserve(std::max(needed, 2 * _Bytes.capacity()));
 }
 
 std::size_t VORUnicodeString::ByteOffset(int iPosition) const

@@ -17,16 +17,27 @@ namespace
 
 constexpr std::size_t Room = 8192;
 
-std::string Format(int iValue, const char* iFormat)
+// The text, which the function and the checked format agree on.
+template <typename Checked, typename Number, typename Function>
+std::string Format(Number iValue, const char* iFormat, Function iFunction)
 {
     char text[Room];
-    return {text, static_cast<std::size_t>(VORFormatInt(iValue, iFormat, text, Room))};
+    const std::string plain(text, static_cast<std::size_t>(iFunction(iValue, iFormat, text, Room)));
+    const Checked format(iFormat);
+    const std::string checked(text, static_cast<std::size_t>(format.Write(iValue, text, Room)));
+    EXPECT_EQ(checked, plain) << iFormat;
+    EXPECT_EQ(format.GetLength(iValue), static_cast<int>(plain.size())) << iFormat;
+    return plain;
+}
+
+std::string Format(int iValue, const char* iFormat)
+{
+    return Format<VORIntFormat>(iValue, iFormat, VORFormatInt);
 }
 
 std::string Format(double iValue, const char* iFormat)
 {
-    char text[Room];
-    return {text, static_cast<std::size_t>(VORFormatFloat(iValue, iFormat, text, Room))};
+    return Format<VORFloatFormat>(iValue, iFormat, VORFormatFloat);
 }
 
 // What is expected: printf under the locale "C".
@@ -61,14 +72,17 @@ double RandomFloat()
 TEST(NumberFormat, GivesTheBytesOfPrintfWhateverTheLocale)
 {
     ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8")) << "this locale must be installed";
-    const std::string sizes[] = {"", "1", "12", "40", ".", ".0", ".3", "20.6", "9.20", "30.40"};
+    const std::string sizes[] = {"", "1", "12", "40", ".", "20.6", "9.20", "30.40"};
     for (const std::string flags : {"", "-", "+", " ", "0", "#", "'", "0-", " +", "#0+ "}) {
         for (int i = 0; i < 16000; ++i) {
-            const std::string conversion = "%" + flags + sizes[Below(std::size(sizes))];
-            const std::string format = "a%%" + conversion + "fFeEgGaA"[i % 8] + "%%.%%";
+            const std::string size =
+                i % 2 == 0 ? sizes[Below(std::size(sizes))] : "." + std::to_string(Below(14));
+            const std::string conversion = "%" + flags + size;
+            const std::string around = flags == "" ? "" : "a%%";
+            const std::string format = around + conversion + "fFeEgGaA"[i / 2 % 8] + around;
             const double value = RandomFloat();
             ASSERT_EQ(Format(value, format.c_str()), Printf(value, format)) << format;
-            const std::string intFormat = conversion + "diuoxXcd"[i % 8];
+            const std::string intFormat = conversion + "diuoxXcd"[i / 2 % 8];
             const auto number = static_cast<int>(Below(SIZE_MAX) >> Below(64)); // any magnitude
             ASSERT_EQ(Format(number, intFormat.c_str()), Printf(number, intFormat)) << intFormat;
         }
@@ -100,9 +114,15 @@ TEST(NumberFormat, LetsOnlyWellFormedFormatsReachPrintf)
 
 TEST(NumberFormat, KeepsToTheBuffer)
 {
-    char text[8] = "#######";
+    char text[24] = "#######";
+    EXPECT_EQ(VORIntFormat("<%d>").Write(1LL << 62, text, 24), 21);
+    EXPECT_STREQ(text, "<4611686018427387904>");
+    EXPECT_EQ(VORIntFormat("%x").Write(-1LL, text, 9), 16);
+    EXPECT_STREQ(text, "ffffffff");
+    EXPECT_EQ(VORFloatFormat("%.3f").Write(-1.5, text, 4), 6);
+    EXPECT_STREQ(text, "-1.");
     EXPECT_EQ(VORFormatInt(12345, "<%d>", text, 4), 7);
-    EXPECT_EQ(std::string(text, 5), std::string("<12\0#", 5));
+    EXPECT_EQ(std::string(text, 5), std::string("<12\0f", 5));
     EXPECT_EQ(VORFormatFloat(1e300, "%f", nullptr, 0), 308);
     VORUnicodeString number("old");
     number.BuildFromNum(7, "\u20AC%-199d|");

@@ -46,6 +46,7 @@ void ExpectBytes(const VORUnicodeString& iText, const std::string& iBytes)
     for (int i = 0; i < iText.GetLengthInChar(); ++i)
         chars += iText[i];
     EXPECT_EQ(iText.ConvertToChar(), iBytes);
+    EXPECT_EQ(iText.ToString(), iBytes);
     EXPECT_EQ(chars, Decode(iBytes));
 }
 
@@ -72,13 +73,16 @@ TEST(UnicodeString, AgreesWithTheReferenceOnRandomBytes)
     for (int round = 0; round < 30000 && !HasFailure(); ++round) {
         const std::string bytes = RandomBytes(Below(30));
         const std::u32string chars = Decode(bytes);
-        const VORUnicodeString text(bytes.c_str());
+        const VORUnicodeString text(bytes);
         ExpectBytes(text, bytes);
         EXPECT_EQ(Encode(chars), bytes);
 
         const std::size_t cut = Below(bytes.size() + 1);
         VORUnicodeString changed(bytes.c_str(), static_cast<int>(cut));
-        ExpectBytes(changed += bytes.c_str() + cut, bytes);
+        changed.ReserveMore(Below(50));
+        const std::string_view rest = std::string_view(bytes).substr(cut);
+        ExpectBytes(round % 2 == 0 ? changed += VORUnicodeString(rest) : changed.AppendBytes(rest),
+                    bytes);
 
         const std::string by = RandomBytes(Below(3));
         const auto position = static_cast<int>(Below(chars.size() + 6)) - 3;

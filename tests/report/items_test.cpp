@@ -1,5 +1,6 @@
 #include <clocale>
 #include <cmath>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "ReportTest.h"
+#include "VORKTRReportTools.h"
 #include "VORKTRReportingFloat.h"
 #include "VORStatus.h"
 #include "support/Rendering.h"
@@ -177,6 +179,32 @@ TEST_F(ItemsTest, FloatsAlwaysHoldAPointAndKeepTheirBound)
     ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8")) << "this locale must be installed";
     for (const auto& one : cases)
         EXPECT_EQ(HtmlOf(VORKTRReportingFloat(one.value, one.format)), one.text) << one.format;
+    char text[VORKTRReportingFloat::TextSize];
+    EXPECT_EQ(VORKTRReportingFloat::WriteText(1e15 / 3, VORFloatFormat("%.20f"), text), 19);
+    EXPECT_STREQ(text, " 333333333333333.31");
+}
+
+TEST_F(ItemsTest, EscapesWhateverItsPlaceInAText)
+{
+    const std::map<char, std::string> escapes = {{'&', "&amp;"},
+                                                 {'<', "&lt;"},
+                                                 {'>', "&gt;"},
+                                                 {'\n', "<BR>\n"},
+                                                 {'\t', "<TT>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;</TT>"}};
+    for (int code = 0; code < 256; ++code) {
+        const auto one = static_cast<char>(code);
+        for (std::size_t place = 0; place < 33; ++place) {
+            std::string text(33 + place % 3, '=');
+            text[place] = text.back() = one;
+            std::string html;
+            for (const char c : text)
+                html += escapes.count(c) ? escapes.at(c) : std::string(1, c);
+            VORUnicodeString escaped;
+            VORKTRReportTools::AppendEscaped(escaped, text);
+            ASSERT_EQ(escaped.ToString(), html) << code << " " << place;
+            ASSERT_EQ(HtmlOf(VORKTRReportingText(text)), "<p>" + html + "</p>\n") << code;
+        }
+    }
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "VORKTRReportTools.h"
 
 #include "VOREnvironment.h"
+#include "VORKTRBytes.h"
+#include "VORKTREscape.h"
 #include "VORPath.h"
 
 std::atomic<int> VORKTRReportTools::_figureNb{0};
@@ -25,4 +27,9 @@ int VORKTRReportTools::StartBrowser(const VORUnicodeString& page, unsigned char)
         return -1;
     command.Append(" ").Append(page);
     return VORRunCommand(command);
+}
+
+void VORKTRReportTools::AppendEscaped(VORUnicodeString& ioHtml, const VORUnicodeString& iText)
+{
+    EscapeHtml(BytesOf(iText), [&ioHtml](std::string_view piece) { ioHtml.AppendBytes(piece); });
 }

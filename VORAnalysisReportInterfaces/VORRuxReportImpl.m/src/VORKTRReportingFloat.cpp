@@ -1,74 +1,86 @@
 #include "VORKTRReportingFloat.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 
 #include "VORKTRCell.h"
 #include "VORKTRFragment.h"
-#include "VORNumberFormat.h"
 
 namespace
 {
 
-constexpr std::size_t BufferSize = 30;
-constexpr const char* BoundedFormat = "%.9g"; // enough digits for every float, in 15 characters
+constexpr std::size_t Size = VORKTRReportingFloat::TextSize;
 
-/// The text of a float, made on the stack: it has a leading blank when the value is not negative,
-/// and a '.' in any case.
+// Puts a '.' behind the leading digits of a text without one. False when it does not fit.
+bool PutSeparator(char* ioText, std::size_t& ioLength)
+{
+    const std::string_view text(ioText, ioLength);
+    if (text.find(VORKTRReportingFloat::float_separator()) != std::string_view::npos)
+        return true;
+    if (ioLength + 1 == Size)
+        return false;
+    const std::size_t at = std::min(text.find_first_not_of(" 0123456789-+"), ioLength);
+    std::memmove(ioText + at + 1, ioText + at, ioLength - at + 1);
+    ioText[at] = VORKTRReportingFloat::float_separator();
+    ++ioLength;
+    return true;
+}
+
+// The length of the text; 0 when it does not fit.
+int Build(double iValue, const VORFloatFormat& iFormat, char* oText)
+{
+    const std::size_t blank = 0.0 <= iValue ? 1 : 0;
+    oText[0] = ' ';
+    const int number = iFormat.Write(iValue, oText + blank, Size - blank);
+    std::size_t length = blank + static_cast<std::size_t>(number);
+    return length < Size && PutSeparator(oText, length) ? static_cast<int>(length) : 0;
+}
+
+/// The text of a float, made on the stack.
 class FloatText
 {
 public:
-    FloatText(float iValue, const char* iFormat)
+    FloatText(float iValue, const VORFloatFormat& iFormat)
+        : _Length(VORKTRReportingFloat::WriteText(iValue, iFormat, _Text))
     {
-        if (!Build(iValue, iFormat))
-            Build(iValue, BoundedFormat);
     }
 
-    std::string_view Get() const { return {_Text, _Length}; }
+    std::string_view Get() const { return {_Text, static_cast<std::size_t>(_Length)}; }
 
 private:
-    // False when the text does not fit.
-    bool Build(float iValue, const char* iFormat)
-    {
-        const std::size_t blank = 0.0f <= iValue ? 1 : 0;
-        _Text[0] = ' ';
-        _Length = blank + static_cast<std::size_t>(
-                              VORFormatFloat(iValue, iFormat, _Text + blank, BufferSize - blank));
-        return _Length < BufferSize && EnsureSeparator();
-    }
-
-    bool EnsureSeparator()
-    {
-        if (Get().find(VORKTRReportingFloat::float_separator()) != std::string_view::npos)
-            return true;
-        if (_Length + 1 == BufferSize)
-            return false;
-        const std::size_t number = Get().find_first_not_of(" 0123456789-+");
-        const std::size_t at = number == std::string_view::npos ? _Length : number;
-        std::memmove(_Text + at + 1, _Text + at, _Length - at);
-        _Text[at] = VORKTRReportingFloat::float_separator();
-        ++_Length;
-        return true;
-    }
-
-    char _Text[BufferSize];
-    std::size_t _Length = 0;
+    char _Text[Size];
+    int _Length;
 };
 
 } // namespace
 
 VORKTRReportingFloat::VORKTRReportingFloat(float value, const char* format)
-    : _Value(value), _Format(format ? format : VORDefaultFloatFormat)
+    : _Value(value), _Format(format)
 {
+}
+
+int VORKTRReportingFloat::WriteText(float iValue, const VORFloatFormat& iFormat, char* oText)
+{
+    const int length = Build(iValue, iFormat, oText);
+    // Enough digits for every float, in 15 characters.
+    return length > 0 ? length : Build(iValue, VORFloatFormat("%.9g"), oText);
+}
+
+int VORKTRReportingFloat::WriteText(double iValue, const VORFloatFormat& iFormat, char* oText)
+{
+    const int length = Build(iValue, iFormat, oText);
+    // Enough digits for every double, in 24 characters.
+    return length > 0 ? length : Build(iValue, VORFloatFormat("%.17g"), oText);
 }
 
 VORKTRReportingFloat::~VORKTRReportingFloat() = default;
 
 char* VORKTRReportingFloat::ConvertToChar() const
 {
-    const FloatText text(_Value, _Format.c_str());
-    char* const result = new char[BufferSize];
-    result[text.Get().copy(result, BufferSize - 1)] = '\0';
+    const FloatText text(_Value, _Format);
+    char* const result = new char[Size];
+    result[text.Get().copy(result, Size - 1)] = '\0';
     return result;
 }
 
@@ -85,24 +97,24 @@ int VORKTRReportingFloat::GetType() const
 void VORKTRReportingFloat::Report(unsigned int iFile, const char*, unsigned char,
                                   unsigned int) const
 {
-    WriteFragment(iFile, FloatText(_Value, _Format.c_str()).Get());
+    WriteFragment(iFile, FloatText(_Value, _Format).Get());
 }
 
 void VORKTRReportingFloat::ASCIIReport(VORUnicodeString& ioText) const
 {
-    const FloatText text(_Value, _Format.c_str());
-    ioText.Append(UnicodeOf(text.Get()));
+    const FloatText text(_Value, _Format);
+    ioText.AppendBytes(text.Get());
 }
 
 int VORKTRReportingFloat::GetWidthInChar() const
 {
-    return static_cast<int>(FloatText(_Value, _Format.c_str()).Get().size());
+    return static_cast<int>(FloatText(_Value, _Format).Get().size());
 }
 
 void VORKTRReportingFloat::Report_in_List(unsigned int iFile, const char*, unsigned char,
                                           unsigned int, char) const
 {
-    const FloatText text(_Value, _Format.c_str());
+    const FloatText text(_Value, _Format);
     const std::size_t point = text.Get().find(float_separator());
     WriteFragment(iFile, OpenRightTD, text.Get().substr(0, point), CloseTD, CenteredCell(0).open,
                   text.Get().substr(point, 1), CloseTD, OpenLeftTD, text.Get().substr(point + 1),
@@ -113,5 +125,5 @@ void VORKTRReportingFloat::Report_in_Table(unsigned int iFile, const char*, unsi
                                            unsigned int, char cellStyle) const
 {
     const CellTags cell = RightCell(cellStyle);
-    WriteFragment(iFile, cell.open, FloatText(_Value, _Format.c_str()).Get(), cell.close);
+    WriteFragment(iFile, cell.open, FloatText(_Value, _Format).Get(), cell.close);
 }

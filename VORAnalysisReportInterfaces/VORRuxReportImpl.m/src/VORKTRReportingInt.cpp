@@ -1,32 +1,25 @@
 #include "VORKTRReportingInt.h"
 
 #include <cstdlib>
-#include <cstring>
 
 #include "VORKTRCell.h"
 #include "VORKTRFragment.h"
-#include "VORNumberFormat.h"
+#include "VORKTRIntText.h"
 
 VORKTRReportingInt::VORKTRReportingInt(int value, const char* format)
-    : _Value(value), _Format(format ? format : VORDefaultIntFormat)
+    : _Value(value), _Format(format)
 {
 }
 
 VORKTRReportingInt::~VORKTRReportingInt() = default;
 
-VORUnicodeString VORKTRReportingInt::GetText() const
-{
-    VORUnicodeString text;
-    text.BuildFromNum(_Value, _Format.c_str());
-    return text;
-}
-
 char* VORKTRReportingInt::ConvertToChar() const
 {
-    const VORUnicodeString text = GetText();
-    const auto size = static_cast<std::size_t>(text.GetLengthInByte()) + 1;
-    auto* const result = static_cast<char*>(std::malloc(size));
-    return result ? static_cast<char*>(std::memcpy(result, text.ConvertToChar(), size)) : nullptr;
+    const IntText text(_Value, _Format);
+    auto* const result = static_cast<char*>(std::malloc(text.Get().size() + 1));
+    if (result)
+        result[text.Get().copy(result, text.Get().size())] = '\0';
+    return result;
 }
 
 int VORKTRReportingInt::GetType() const
@@ -36,17 +29,17 @@ int VORKTRReportingInt::GetType() const
 
 void VORKTRReportingInt::Report(unsigned int iFile, const char*, unsigned char, unsigned int) const
 {
-    WriteFragment(iFile, GetText());
+    WriteFragment(iFile, IntText(_Value, _Format).Get());
 }
 
 void VORKTRReportingInt::ASCIIReport(VORUnicodeString& ioText) const
 {
-    ioText.Append(GetText());
+    ioText.AppendBytes(IntText(_Value, _Format).Get());
 }
 
 int VORKTRReportingInt::GetWidthInChar() const
 {
-    return GetText().GetLengthInByte();
+    return static_cast<int>(IntText(_Value, _Format).Get().size());
 }
 
 void VORKTRReportingInt::Report_in_List(unsigned int iFile, const char* iPath,

@@ -1,15 +1,13 @@
 #include "VORKTRReportingText.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
-#include <iterator>
 #include <memory_resource>
 #include <string>
 #include <string_view>
 
 #include "VORKTRAssert.h"
 #include "VORKTRCell.h"
+#include "VORKTREscape.h"
 #include "VORKTRFragment.h"
 #include "VORKTRReportingFloat.h"
 #include "VORKTRReportingInt.h"
@@ -19,50 +17,6 @@ namespace
 
 constexpr const char* Source = VORKTR_SOURCE_PATH "VORKTRReportingText";
 constexpr const char* AllTextAssertion = "AssertionFailed:_AllText";
-
-struct Escape {
-    char character;
-    std::string_view html;
-};
-
-constexpr Escape Escapes[] = {{'&', "&amp;"},
-                              {'<', "&lt;"},
-                              {'>', "&gt;"},
-                              {'\n', "<BR>\n"},
-                              {'\t', "<TT>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;</TT>"}};
-
-// The characters alone, for strcspn, which is the fastest way to the next of them.
-constexpr auto EscapedCharacters = [] {
-    std::array<char, std::size(Escapes) + 1> characters{};
-    for (std::size_t i = 0; i < std::size(Escapes); ++i)
-        characters[i] = Escapes[i].character;
-    return characters;
-}();
-
-void AppendEscape(std::pmr::string& ioHtml, char iCharacter)
-{
-    for (const Escape& escape : Escapes) {
-        if (escape.character == iCharacter) {
-            ioHtml += escape.html;
-            return;
-        }
-    }
-    ioHtml += iCharacter; // a NUL inside the text, where strcspn stops too
-}
-
-void AppendEscaped(std::pmr::string& ioHtml, const VORUnicodeString& iText)
-{
-    const char* at = iText.ConvertToChar();
-    const char* const end = at + iText.GetLengthInByte();
-    for (;;) {
-        const std::size_t plain = std::strcspn(at, EscapedCharacters.data());
-        ioHtml.append(at, plain);
-        at += plain;
-        if (at == end)
-            return;
-        AppendEscape(ioHtml, *at++);
-    }
-}
 
 void WriteEscaped(unsigned int iFile, std::string_view iOpen, const VORUnicodeString& iText,
                   std::string_view iClose)
@@ -74,7 +28,7 @@ void WriteEscaped(unsigned int iFile, std::string_view iOpen, const VORUnicodeSt
     const auto size = static_cast<std::size_t>(iText.GetLengthInByte());
     html.reserve(iOpen.size() + 2 * size + iClose.size());
     html = iOpen;
-    AppendEscaped(html, iText);
+    EscapeHtml(BytesOf(iText), [&html](std::string_view piece) { html += piece; });
     html += iClose;
     SendFragment(iFile, html);
 }

@@ -33,6 +33,12 @@ int VORLayer::PrintNumber(char* oText, std::size_t iSize, const char* iConversio
     return std::snprintf(oText, iSize, iConversion, iNumber);
 }
 
+int VORLayer::PrintNumber(char* oText, std::size_t iSize, const char* iConversion,
+                          long long iNumber)
+{
+    return std::snprintf(oText, iSize, iConversion, iNumber);
+}
+
 int VORLayer::PrintNumber(char* oText, std::size_t iSize, const char* iConversion, double iNumber)
 {
     const NumericCLocale locale;

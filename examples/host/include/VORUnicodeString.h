@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 using VORUnicodeChar = char32_t;
 
@@ -19,6 +20,11 @@ public:
 
     VORUnicodeString& Append(const VORUnicodeString& iText);
     VORUnicodeString& operator+=(const VORUnicodeString& iText) { return Append(iText); }
+    VORUnicodeString& AppendBytes(std::string_view iText)
+    {
+        _Bytes += iText;
+        return *this;
+    }
 
     int GetLengthInChar() const;
     int GetLengthInByte() const { return static_cast<int>(_Bytes.size()); }
