@@ -37,6 +37,7 @@ function(vor_install_library target VOR_DESCRIPTION)
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${development}
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT ${runtime} NAMELINK_COMPONENT ${development}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${runtime}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target})
     install(EXPORT ${target}Targets NAMESPACE VOR:: DESTINATION ${package_directory}
         COMPONENT ${development})
@@ -45,6 +46,11 @@ function(vor_install_library target VOR_DESCRIPTION)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
 
     set(VOR_TARGET ${target})
+    set(VOR_DEFINITIONS "")
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL STATIC_LIBRARY)
+        set(VOR_DEFINITIONS " -D${target}_STATIC")
+    endif()
     get_target_property(VOR_REQUIRES ${target} VOR_REQUIRES)
     if(NOT VOR_REQUIRES)
         set(VOR_REQUIRES "")
@@ -76,10 +82,16 @@ install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Documen
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT Documentation
     FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
 
+install(FILES ${VOR_COMPILER_RUNTIME} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME voranalysisreportinterfaces)
 set(CPACK_PACKAGE_CONTACT "The VORAnalysisReportInterfaces team <team@voranalysisreport.invalid>")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+else()
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+endif()
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)

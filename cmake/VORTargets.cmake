@@ -18,12 +18,32 @@ endfunction()
 # minor version that it was built with.
 function(vor_configure_library target)
     vor_configure_target(${target})
-    set(exports ${CMAKE_CURRENT_SOURCE_DIR}/exports.map)
-    target_link_options(${target} PRIVATE LINKER:--version-script,${exports})
-    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
+    vor_export_as_listed(${target} ${CMAKE_CURRENT_SOURCE_DIR}/exports.map)
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL STATIC_LIBRARY)
+        target_compile_definitions(${target} PUBLIC ${target}_STATIC)
+    endif()
     set_target_properties(${target} PROPERTIES
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+endfunction()
+
+# The list is a version script; for Windows the linker gets what it asks for from its object files.
+function(vor_export_as_listed target exports)
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
+    if(NOT WIN32)
+        target_link_options(${target} PRIVATE LINKER:--version-script,${exports})
+        return()
+    endif()
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL SHARED_LIBRARY)
+        set(list ${CMAKE_CURRENT_BINARY_DIR}/${target}.def)
+        add_custom_command(TARGET ${target} PRE_LINK
+            COMMAND ${CMAKE_COMMAND} -DMAP=${exports} -DNM=${CMAKE_NM} -DDEF=${list}
+                -P ${PROJECT_SOURCE_DIR}/cmake/windows/ExportList.cmake -- $<TARGET_OBJECTS:${target}>
+            COMMAND_EXPAND_LISTS VERBATIM)
+        target_link_options(${target} PRIVATE ${list})
+    endif()
 endfunction()
