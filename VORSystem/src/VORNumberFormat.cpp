@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 #include <iterator>
 #include <string_view>
@@ -112,6 +113,15 @@ VORFormatParts PartsOf(const char* iFormat, const char* iDefault, std::string_vi
     return parts;
 }
 
+using VORLayer::PrintNumber;
+
+// Whole numbers look the same in every locale.
+template <typename Int>
+int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, Int iNumber)
+{
+    return std::snprintf(oText, iSize, iConversion, iNumber);
+}
+
 // Bounded text that goes on counting when it is full, as snprintf does.
 class Output
 {
@@ -151,7 +161,7 @@ public:
     {
         const std::size_t room = _Length < _Room ? _Room - _Length + 1 : 0;
         const int length =
-            VORLayer::PrintNumber(room > 0 ? _Text + _Length : nullptr, room, iConversion, iValue);
+            PrintNumber(room > 0 ? _Text + _Length : nullptr, room, iConversion, iValue);
         _Length += static_cast<std::size_t>(length);
     }
 

@@ -53,12 +53,9 @@ int RunCommand(const char* iCommand);
 unsigned long ProcessId();
 /// @}
 
-/// @{ What snprintf gives for one number, under the numeric locale "C" whatever is set. iConversion
-/// is a conversion of that type alone, without ' and length modifiers but the "ll" of a long long.
-int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, int iNumber);
-int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, long long iNumber);
+/// What snprintf gives for one number, under the numeric locale "C" whatever is set. iConversion is
+/// a conversion of a double alone, without ' and length modifiers.
 int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, double iNumber);
-/// @}
 
 } // namespace VORLayer
 

@@ -28,17 +28,6 @@ private:
 
 } // namespace
 
-int VORLayer::PrintNumber(char* oText, std::size_t iSize, const char* iConversion, int iNumber)
-{
-    return std::snprintf(oText, iSize, iConversion, iNumber);
-}
-
-int VORLayer::PrintNumber(char* oText, std::size_t iSize, const char* iConversion,
-                          long long iNumber)
-{
-    return std::snprintf(oText, iSize, iConversion, iNumber);
-}
-
 int VORLayer::PrintNumber(char* oText, std::size_t iSize, const char* iConversion, double iNumber)
 {
     const NumericCLocale locale;

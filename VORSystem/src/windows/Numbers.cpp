@@ -16,31 +16,15 @@ bool IsDecimalPoint(char iChar)
     return !std::strchr("0123456789+- abcdefinpxABCDEFINPX", iChar);
 }
 
-// "nan" in the place of "inf".
+// Letter by letter "nan" in the place of "inf".
 char LetterOfNan(char iLetter)
 {
-    switch (iLetter) {
-    case 'i':
-    case 'f':
-        return 'n';
-    case 'I':
-    case 'F':
-        return 'N';
-    case 'n':
-        return 'a';
-    case 'N':
-        return 'A';
-    default:
-        return iLetter;
-    }
+    constexpr const char* letters = "infINF";
+    const char* const at = std::strchr(letters, iLetter);
+    return at ? "nanNAN"[at - letters] : iLetter;
 }
 
 } // namespace
-
-int VORLayer::PrintNumber(char* oText, std::size_t iSize, const char* iConversion, int iNumber)
-{
-    return std::snprintf(oText, iSize, iConversion, iNumber);
-}
 
 int VORLayer::PrintNumber(char* oText, std::size_t iSize, const char* iConversion, double iNumber)
 {
