@@ -1,7 +1,9 @@
+#include <csignal>
 #include <filesystem>
 #include <string>
 #include <utility>
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -240,6 +242,27 @@ TEST_F(SiteTest, FailuresOfPagesCostOnlyTheirItems)
     report.NoteWriteStatus(VOR_E_INVALIDARG);
     report.NoteWriteStatus(VOR_E_FAIL);
     EXPECT_EQ(report.TakeWriteStatus(), VOR_E_INVALIDARG);
+}
+
+TEST_F(SiteTest, AFullDiskIsToldAndMendedByTheNextRun)
+{
+    Add({Title("A", 1), Text("a"), Title("B", 1), Text(std::string(70000, 'b').c_str())});
+    ASSERT_EQ(Make(), 0);
+    EXPECT_EQ(report.Update(), 0);
+    const auto whole = ReadTree(site);
+    std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit limit;
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    for (const rlim_t size : {rlim_t{100}, rlim_t{66000}, limit.rlim_max}) {
+        const bool isFull = size != limit.rlim_max;
+        limit.rlim_cur = size;
+        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+        EXPECT_EQ(report.TakeWriteStatus(), 0);
+        report.GetIndex() = 1;
+        EXPECT_EQ(report.Update(), 0);
+        EXPECT_EQ(report.TakeWriteStatus(), isFull ? VOR_E_DISK_FULL : 0);
+        EXPECT_EQ(ReadTree(site) == whole, !isFull);
+    }
 }
 
 TEST_F(SiteTest, ADirectoryThatMayNotBeWrittenEndsTheRun)

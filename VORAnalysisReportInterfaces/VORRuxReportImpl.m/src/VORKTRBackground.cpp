@@ -31,10 +31,7 @@ SettingsPointer FindSettings()
 
 bool Exists(const VORUnicodeString& iPath, int& ioFailure)
 {
-    const int status = VORFileAccess(iPath, 0, 0);
-    if (status != VOR_E_FILE_NOT_FOUND)
-        Noted(ioFailure, status);
-    return status == VOR_S_OK;
+    return NotedUnlessMissing(ioFailure, VORFileAccess(iPath, 0, 0)) == VOR_S_OK;
 }
 
 bool IsStandardImageIn(const char* iPath, int& ioFailure)

@@ -167,9 +167,8 @@ int VORKTRReportingBuffer::DeleteSiteFile(const VORUnicodeString& iName)
 {
     VORUnicodeString path;
     const int status = Noted(_WriteStatus, VORMakePath(*_Path, iName, path));
-    const int deleted = status < 0 ? VOR_S_OK : VORDeleteFile(path);
-    if (deleted != VOR_E_FILE_NOT_FOUND)
-        NoteWriteStatus(deleted);
+    if (status >= 0)
+        NotedUnlessMissing(_WriteStatus, VORDeleteFile(path));
     return status;
 }
 
@@ -227,7 +226,8 @@ VORUnicodeString VORKTRReportingBuffer::ChooseBackground()
     if (!setting.isStandard && CopyBackground(setting.image, code))
         return code;
     VORUnicodeString image;
-    VORFindPath(StandardBackgroundImage, VORGetEnv("VORGraphicPath"), image);
+    NotedUnlessMissing(_WriteStatus,
+                       VORFindPath(StandardBackgroundImage, VORGetEnv("VORGraphicPath"), image));
     return CopyBackground(image, code) ? code : LatestBackground();
 }
 

@@ -138,6 +138,11 @@ int Noted(int& ioFailure, int iStatus)
     return iStatus;
 }
 
+int NotedUnlessMissing(int& ioFailure, int iStatus)
+{
+    return iStatus == VOR_E_FILE_NOT_FOUND ? iStatus : Noted(ioFailure, iStatus);
+}
+
 void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
                    const VORUnicodeString& iBackground)
 {

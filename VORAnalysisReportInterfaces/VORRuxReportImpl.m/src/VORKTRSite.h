@@ -19,6 +19,8 @@ VORUnicodeString PageName(int iNumber);
 
 /// Returns a status, which becomes ioFailure when it is the first negative one.
 int Noted(int& ioFailure, int iStatus);
+/// As above, but that there is no such file is not noted.
+int NotedUnlessMissing(int& ioFailure, int iStatus);
 
 /// Each writes the beginning of a page in one write; titles and backgrounds go in as they stand.
 void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,

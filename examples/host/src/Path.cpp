@@ -5,6 +5,8 @@
 namespace
 {
 
+constexpr std::size_t LongestPath = 255;
+
 // False for a path that names no file.
 bool Split(const std::string& iPath, std::string& oDirectory, std::string& oName)
 {
@@ -25,6 +27,8 @@ VORStatus VORMakePath(const VORUnicodeString& iDirectory, const VORUnicodeString
     if (directory.empty() || name.empty())
         return VOR_E_INVALIDARG;
     directory.erase(directory.find_last_not_of('/') + 1);
+    if (directory.size() + 1 + name.size() > LongestPath)
+        return VOR_E_INVALIDARG;
     oPath = (directory + '/' + name).c_str();
     return VOR_S_OK;
 }

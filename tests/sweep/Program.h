@@ -1,0 +1,53 @@
+#ifndef Program_h
+#define Program_h
+
+#include <map>
+#include <string>
+
+#include "VORKTRReportingBuffer.h"
+
+class OwnFile;
+
+using Files = std::map<std::string, std::string>;
+
+/// What the program finds in its directory, by name.
+inline const Files Sources = {{"a.gif", "an image, removed"},
+                              {"b.wrl", "a scene"},
+                              {"c.wav", "a sound, taken late"},
+                              {"images/Corp.gif", "the background"}};
+
+/// What an application does: a report of every kind of item, written with frames into "site" and as
+/// text, then changed and written as one page into "single", with files moved, copied and removed,
+/// and with an item that writes a file of its own.
+class Program
+{
+public:
+    explicit Program(const std::string& iRoot);
+
+    /// True when no operation had a negative status and all of it arrived whole.
+    bool Write();
+
+    /// Writes the report once more, into "again".
+    void Rewrite();
+
+    VORUnicodeString text; ///< The report as text.
+
+private:
+    std::string _Root;
+    VORKTRReportingBuffer _Report;
+    OwnFile* _OwnFile;
+};
+
+/// What one run came to.
+struct Outcome {
+    bool isWhole = false; ///< Nothing failed that showed.
+    std::string text;
+    Files files;
+    Files rewritten; ///< After Rewrite, with nothing that fails.
+};
+
+/// Expects a run to have ended like the right one, or with a failure that lost no file of a user;
+/// and that what is written afterwards names files that are there.
+void ExpectWholeOrHarmless(const Outcome& iOutcome, const Outcome& iRight);
+
+#endif
