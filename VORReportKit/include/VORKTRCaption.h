@@ -19,12 +19,11 @@ public:
     };
 
 protected:
-    /// A caption without a number yet; its text is escaped on the page. The kind must live on.
+    /// A caption without a number yet. Its text is escaped; the kind must live on.
     VORKTRCaption(const Kind& iKind, const VORUnicodeString& iText);
-    ~VORKTRCaption();
+    ~VORKTRCaption() = default;
 
-    /// Takes the next number, as an anchor on the page that iReport is writing, and returns that
-    /// anchor.
+    /// Takes the next number, as an anchor on the page that iReport is writing, and returns that.
     std::string TakeNumber(VORKTRReportingBuffer* iReport, unsigned char iFrames) const;
     /// Number and text as HTML.
     std::string GetHtml() const;
@@ -32,7 +31,7 @@ protected:
     std::vector<std::string> GetLines(int iWidth) const;
 
 private:
-    void TakeNumber() const;
+    void Count() const;
 
     const Kind& _Kind;
     VORUnicodeString _Text;

@@ -4,21 +4,17 @@
 #include "VORKTRReportingObj.h"
 #include "VORReportKitExport.h"
 
-/// Says on the first page, and on the navigation page, that the site is UTF-8 and made for the
-/// width of the device. It is the first item of a report; VORKTRHeading does the same for the pages
-/// that it begins. Browsers look for it in the first 1,024 bytes: titles and headings have at most
-/// 350.
+/// Says on the first page and on the navigation page that the site is UTF-8 and made for the width
+/// of the device; VORKTRHeading says it on the pages that it begins. It is the first item of a
+/// report. Browsers look for it in the first 1,024 bytes: keep title and headings below 350.
 class VORKIT_EXPORT VORKTRCharset : public VORKTRReportingObj
 {
 public:
-    VORKTRCharset();
-    ~VORKTRCharset() override;
-
     void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
                 unsigned int iNavigationFile) const override;
     /// Nothing.
-    void ASCIIReport(VORUnicodeString& ioText) const override;
-    int GetWidthInChar() const override;
+    void ASCIIReport(VORUnicodeString&) const override {}
+    int GetWidthInChar() const override { return 0; }
 };
 
 #endif

@@ -15,7 +15,6 @@ public:
     /// width. Caption and alternative are escaped.
     VORKTRFigure(const char* iPath, const VORUnicodeString& iCaption,
                  const VORUnicodeString& iAlternative, int iWidth = 0);
-    ~VORKTRFigure() override;
 
     void SetBufferData(const VORUnicodeString* iDirectory) override;
     int RemoveFromReport() override;

@@ -12,7 +12,6 @@ class VORKIT_EXPORT VORKTRHeading : public VORKTRReportingTitle, public VORKTRLi
 public:
     /// As VORKTRReportingTitle: iTitle is HTML, iOrder the level from 1 to 6.
     VORKTRHeading(const VORUnicodeString& iTitle, int iOrder);
-    ~VORKTRHeading() override;
 
     void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
                 unsigned int iNavigationFile) const override;

@@ -13,7 +13,6 @@ class VORKIT_EXPORT VORKTRLink : public VORKTRReportingObj
 public:
     /// The target may end before the link.
     explicit VORKTRLink(const VORKTRLinkTarget& iTarget);
-    ~VORKTRLink() override;
 
     void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
                 unsigned int iNavigationFile) const override;

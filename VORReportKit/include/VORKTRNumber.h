@@ -1,11 +1,11 @@
 #ifndef VORKTRNumber_h
 #define VORKTRNumber_h
 
-#include <cstdint>
 #include <string>
 #include <type_traits>
 
 #include "VORKTRReportingObj.h"
+#include "VORNumberFormat.h"
 #include "VORReportKitExport.h"
 
 /// A number in double precision or a whole number of 64 bits, as its format says: no leading blank,
@@ -15,18 +15,21 @@
 class VORKIT_EXPORT VORKTRNumber : public VORKTRReportingObj
 {
 public:
-    /// A double in a printf format (see VORFormatFloat, which says what becomes of an unfit one).
-    explicit VORKTRNumber(double iValue, const char* iFormat = "%g");
-    /// A whole number of any type, below 2^63.
+    /// @{ A number in a printf format; VORNumberFormat.h says what becomes of an unfit one.
+    explicit VORKTRNumber(double iValue, const char* iFormat = VORDefaultFloatFormat);
+    explicit VORKTRNumber(long long iValue, const char* iFormat = VORDefaultIntFormat);
+    /// @}
+    /// A whole number of another type, below 2^63.
     template <typename Whole, typename = std::enable_if_t<std::is_integral_v<Whole>>>
-    explicit VORKTRNumber(Whole iValue) : _Text(std::to_string(static_cast<std::int64_t>(iValue)))
+    explicit VORKTRNumber(Whole iValue, const char* iFormat = VORDefaultIntFormat)
+        : VORKTRNumber(static_cast<long long>(iValue), iFormat)
     {
     }
-    ~VORKTRNumber() override;
 
     void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
                 unsigned int iNavigationFile) const override;
     void ASCIIReport(VORUnicodeString& ioText) const override;
+    /// Length of the text in bytes, as of the report library's numbers.
     int GetWidthInChar() const override;
     void Report_in_List(unsigned int iFile, const char* iPath, unsigned char iFrames,
                         unsigned int iNavigationFile, char iWide) const override;

@@ -19,7 +19,6 @@ public:
     /// blanks; in the cell of a table they have iCellWidth characters at most. Longer words run
     /// over.
     explicit VORKTRProse(const VORUnicodeString& iText, int iIndent = 0, int iCellWidth = 40);
-    ~VORKTRProse() override;
 
     /// @{ Appends text, or a link to a target that stands before the paragraph and may end before
     /// it. Nothing comes between the pieces. Returns the paragraph.

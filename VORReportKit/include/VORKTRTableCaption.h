@@ -13,7 +13,6 @@ class VORKIT_EXPORT VORKTRTableCaption : public VORKTRReportingObj, public VORKT
 public:
     /// The text is escaped.
     explicit VORKTRTableCaption(const VORUnicodeString& iCaption);
-    ~VORKTRTableCaption() override;
 
     /// Starts the table numbers of the process at 1 again. Only the application calls it.
     static void InitTableNumber();

@@ -9,7 +9,7 @@ namespace
 VORUnicodeString NameOf(const char* iWord, const char* iMessage, const std::string& iNumber)
 {
     return VORMsgCatalog::BuildMessage("VORKTRReportingMessages", iMessage, nullptr, 0, iWord) +
-           UnicodeOf(iNumber);
+           VORUnicodeString(iNumber);
 }
 
 } // namespace
@@ -19,9 +19,7 @@ VORKTRCaption::VORKTRCaption(const Kind& iKind, const VORUnicodeString& iText)
 {
 }
 
-VORKTRCaption::~VORKTRCaption() = default;
-
-void VORKTRCaption::TakeNumber() const
+void VORKTRCaption::Count() const
 {
     _Number = _Kind.getNumber();
     SetName(NameOf(_Kind.word, _Kind.message, std::to_string(_Number)));
@@ -29,7 +27,7 @@ void VORKTRCaption::TakeNumber() const
 
 std::string VORKTRCaption::TakeNumber(VORKTRReportingBuffer* iReport, unsigned char iFrames) const
 {
-    TakeNumber();
+    Count();
     const std::string anchor = _Kind.anchor + std::to_string(_Number);
     SetAnchor(iReport, iFrames, anchor);
     return anchor;
@@ -37,12 +35,12 @@ std::string VORKTRCaption::TakeNumber(VORKTRReportingBuffer* iReport, unsigned c
 
 std::string VORKTRCaption::GetHtml() const
 {
-    return std::string(BytesOf(GetPlace()->name)) + ": " + Escaped(_Text);
+    return GetPlace()->name.ToString() + ": " + Escaped(_Text.GetView());
 }
 
 std::vector<std::string> VORKTRCaption::GetLines(int iWidth) const
 {
     if (_Number == 0)
-        TakeNumber();
-    return BreakLines(BytesOf(GetPlace()->name + ": " + _Text), iWidth);
+        Count();
+    return BreakLines((GetPlace()->name + ": " + _Text).GetView(), iWidth);
 }

@@ -6,6 +6,7 @@
 #include "VORFile.h"
 #include "VORKTRKitPieces.h"
 #include "VORKTRReportTools.h"
+#include "VORKTRReportingBuffer.h"
 #include "VORPath.h"
 
 namespace
@@ -19,11 +20,10 @@ constexpr VORKTRCaption::Kind Figures = {"Figure ", "Figure_Number", "figure",
 VORKTRFigure::VORKTRFigure(const char* iPath, const VORUnicodeString& iCaption,
                            const VORUnicodeString& iAlternative, int iWidth)
     : VORKTRReportingFile(VORKTRReportingImage, iPath), VORKTRCaption(Figures, iCaption),
-      _Path(iPath), _Name(BytesOf(_Path)), _Alternative(iAlternative), _Width(iWidth)
+      _Path(iPath), _Name(_Path.GetView()), _Alternative(iAlternative), _Width(iWidth)
 {
+    _Alternative.ReplaceAll("\n", " "); // it becomes an attribute
 }
-
-VORKTRFigure::~VORKTRFigure() = default;
 
 void VORKTRFigure::SetBufferData(const VORUnicodeString* iDirectory)
 {
@@ -39,23 +39,28 @@ void VORKTRFigure::SetBufferData(const VORUnicodeString* iDirectory)
 
 int VORKTRFigure::RemoveFromReport()
 {
-    return VORDeleteFile(_Path) == 0 ? VOR_S_OK : VOR_E_FAIL;
+    const VORStatus status = VORDeleteFile(_Path);
+    if (_Buffer)
+        _Buffer->NoteWriteStatus(status);
+    return status == 0 ? VOR_S_OK : VOR_E_FAIL;
 }
 
 void VORKTRFigure::Report(unsigned int iFile, const char*, unsigned char iFrames,
                           unsigned int) const
 {
     const std::string anchor = TakeNumber(_Buffer, iFrames);
+    VORUnicodeString alternative = Escaped(_Alternative.GetView());
+    alternative.ReplaceAll("\"", "&quot;");
     const std::string width = _Width > 0 ? " WIDTH=" + std::to_string(_Width) : "";
     WriteHtml(iFile, "<CENTER>\n<FIGURE ID=\"" + anchor + "\">\n<IMG SRC=\"" + _Name + "\" ALT=\"" +
-                         Escaped(_Alternative) + "\"" + width + ">\n<FIGCAPTION>" + GetHtml() +
+                         alternative.ToString() + "\"" + width + ">\n<FIGCAPTION>" + GetHtml() +
                          "</FIGCAPTION>\n</FIGURE>\n</CENTER>\n");
 }
 
 std::vector<std::string> VORKTRFigure::GetAllLines(int iWidth) const
 {
     const VORUnicodeString shown = _Alternative == "" ? "Image" : _Alternative;
-    std::vector<std::string> lines = BreakLines(BytesOf("[" + shown + "]"), iWidth);
+    std::vector<std::string> lines = BreakLines(("[" + shown + "]").GetView(), iWidth);
     std::vector<std::string> caption = GetLines(iWidth);
     std::move(caption.begin(), caption.end(), std::back_inserter(lines));
     return lines;
@@ -63,15 +68,15 @@ std::vector<std::string> VORKTRFigure::GetAllLines(int iWidth) const
 
 void VORKTRFigure::ASCIIReport(VORUnicodeString& ioText) const
 {
-    ioText.Append(UnicodeOf("\n" + JoinCentred(GetAllLines(CaptionWidth)) + "\n"));
+    ioText.AppendBytes("\n" + JoinCentred(GetAllLines(CaptionWidth)) + "\n");
 }
 
 int VORKTRFigure::GetWidthInChar() const
 {
-    return WidestLine(GetAllLines(CellWidth));
+    return WidestLine(JoinIndented(GetAllLines(CellWidth), 0));
 }
 
 void VORKTRFigure::ASCIIReport_in_Table(VORUnicodeString& ioText) const
 {
-    ioText.Append(UnicodeOf(JoinIndented(GetAllLines(CellWidth), 0)));
+    ioText.AppendBytes(JoinIndented(GetAllLines(CellWidth), 0));
 }

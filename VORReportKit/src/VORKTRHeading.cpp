@@ -8,8 +8,6 @@ VORKTRHeading::VORKTRHeading(const VORUnicodeString& iTitle, int iOrder)
 {
 }
 
-VORKTRHeading::~VORKTRHeading() = default;
-
 void VORKTRHeading::Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
                            unsigned int iNavigationFile) const
 {

@@ -21,15 +21,23 @@ constexpr std::string_view PageFacts =
 /// Writes one finished fragment of HTML; the page keeps a failure.
 void WriteHtml(unsigned int iFile, std::string_view iHtml);
 
-std::string_view BytesOf(const VORUnicodeString& iText);
-VORUnicodeString UnicodeOf(std::string_view iBytes);
-int CountChars(std::string_view iText);
+/// The text as HTML, as a paragraph writes it.
+std::string Escaped(std::string_view iText);
 
-/// The text as HTML, fit for the value of an attribute too.
-std::string Escaped(const VORUnicodeString& iText);
+enum Align { Left, Centred, Right };
+
+/// The tag that opens a table cell, and the one that closes it.
+std::string_view OpenCell(bool iIsHeader, Align iAlign);
+std::string_view CloseCell(bool iIsHeader);
+/// A whole cell.
+std::string InCell(bool iIsHeader, Align iAlign, std::string_view iHtml);
 
 /// A link as HTML; the target's name alone while it has no place in a site.
 std::string LinkHtml(const VORKTRLinkTarget::Place& iPlace);
+
+int CountChars(std::string_view iText);
+/// iCount blanks; none for a count below 1.
+std::string Blanks(int iCount);
 
 /// Breaks a text between words into lines of at most iWidth characters; a longer word has a line to
 /// itself.
@@ -39,7 +47,22 @@ std::vector<std::string> BreakLines(std::string_view iText, int iWidth);
 std::string JoinIndented(const std::vector<std::string>& iLines, int iIndent);
 std::string JoinCentred(const std::vector<std::string>& iLines);
 
-/// Length of the longest line in characters.
-int WidestLine(const std::vector<std::string>& iLines);
+/// Length of the longest line of a text in characters.
+int WidestLine(std::string_view iText);
+
+/// Appends a number in a format of VORNumberFormat.h.
+template <typename Format, typename Number>
+void AppendNumber(std::string& ioText, const Format& iFormat, Number iNumber)
+{
+    char text[64];
+    const auto length = static_cast<std::size_t>(iFormat.Write(iNumber, text, sizeof text));
+    if (length < sizeof text) {
+        ioText.append(text, length);
+        return;
+    }
+    std::string longText(length + 1, '\0');
+    iFormat.Write(iNumber, longText.data(), longText.size());
+    ioText.append(longText, 0, length);
+}
 
 #endif

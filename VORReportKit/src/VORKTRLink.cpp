@@ -4,8 +4,6 @@
 
 VORKTRLink::VORKTRLink(const VORKTRLinkTarget& iTarget) : _Place(iTarget.GetPlace()) {}
 
-VORKTRLink::~VORKTRLink() = default;
-
 void VORKTRLink::Report(unsigned int iFile, const char*, unsigned char, unsigned int) const
 {
     WriteHtml(iFile, LinkHtml(*_Place));

@@ -4,6 +4,7 @@
 
 #include "VORFile.h"
 #include "VORKTRLookStyles.h"
+#include "VORKTRReportingBuffer.h"
 #include "VORPath.h"
 
 namespace
@@ -30,12 +31,6 @@ VORStatus CopyFrom(const VORUnicodeString& iDirectory, const char* iName,
 
 } // namespace
 
-VORKTRLook::VORKTRLook() = default;
-
-VORKTRLook::VORKTRLook(const VORUnicodeString& iDirectory) : _Directory(iDirectory) {}
-
-VORKTRLook::~VORKTRLook() = default;
-
 void VORKTRLook::Report(unsigned int, const char* iPath, unsigned char iFrames, unsigned int) const
 {
     Replace(iPath, "main.css", MainLook);
@@ -50,11 +45,6 @@ void VORKTRLook::Replace(const char* iPath, const char* iName, const char* iStyl
     if (status >= 0)
         status =
             _Directory == "" ? WriteFile(target, iStyles) : CopyFrom(_Directory, iName, target);
-}
-
-void VORKTRLook::ASCIIReport(VORUnicodeString&) const {}
-
-int VORKTRLook::GetWidthInChar() const
-{
-    return 0;
+    if (_Buffer)
+        _Buffer->NoteWriteStatus(status);
 }

@@ -64,10 +64,10 @@ table:not([cellpadding]) td:nth-child(-n+2) { padding-right: .8rem; }
 table:not([cellpadding]) td:nth-child(2) { color: var(--quiet); }
 
 table[cellpadding] { border-top: 1px solid var(--line); }
-table[cellpadding] > tbody > tr > * { padding: .34rem .8rem; border-bottom: 1px solid var(--line); }
+table[cellpadding] > tbody > tr > * { padding: .34rem .8rem; border: 0 solid var(--line); border-bottom-width: 1px; }
 table[cellpadding] p { margin: 0; }
 table[border="2"] { border: 1px solid var(--line); border-bottom-width: 0; }
-table[border="2"] > tbody > tr > * + * { border-left: 1px solid var(--line); }
+table[border="2"] > tbody > tr > * + * { border-left-width: 1px; }
 center > table { margin-inline: auto; }
 th { background-color: var(--tint); color: var(--ink); font-weight: 600; }
 tr:first-child:has(> th + th) > th { position: sticky; z-index: 1; top: 0; vertical-align: bottom; }
@@ -93,18 +93,21 @@ figcaption { max-width: 44rem; margin: .4rem auto 0; }
 
 @media print {
   :root { --ink: #000; --quiet: #333; --accent: #000; --line: #999; --tint: transparent; }
-  body { max-width: none; padding: 0; font-size: 10pt; }
+  html { font-size: 10pt; }
+  body { max-width: none; padding: 0; }
   p, figcaption, .tablecaption { max-width: none; orphans: 3; widows: 3; }
-  h1:first-child, .maintitle { margin-top: 0; }
-  h1, h2, h3, h4, h5, h6, .tablecaption { break-after: avoid; }
-  a:has(> h1), a:has(> h2), a:has(> h3), a:has(> h4) { display: block; break-after: avoid; }
+  .maintitle, a:first-child > * { margin-top: 0; }
+  a:has(> h1, > h2, > h3, > h4, > h5, > h6) { display: block; }
+  a:has(> h1, > h2, > h3, > h4, > h5, > h6), .tablecaption { break-after: avoid; }
   tr, img, figure, .maintitle { break-inside: avoid; }
   img { max-height: 220mm; }
   a:link, a:visited { color: inherit; text-decoration: none; }
-  table { font-size: 9pt; }
+  table[cellpadding] { border: 0; }
   table[cellpadding] > tbody > tr > * { padding: .5mm 2mm; }
+  table[cellpadding] > tbody > tr:first-child > * { border-top-width: 1px; }
   /* As a group the header row comes again on each sheet. */
-  tr:first-child:has(> th + th) { display: table-header-group; }
+  tbody:has(> tr:first-child > th + th) { display: contents; }
+  tr:first-child:has(> th + th) { display: table-header-group; break-inside: avoid; }
   tr:first-child > th { position: static; }
   embed { display: none; }
 }

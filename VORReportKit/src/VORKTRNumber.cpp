@@ -1,25 +1,16 @@
 #include "VORKTRNumber.h"
 
 #include "VORKTRKitPieces.h"
-#include "VORNumberFormat.h"
 
-namespace
+VORKTRNumber::VORKTRNumber(double iValue, const char* iFormat)
 {
-
-std::string TextOf(double iValue, const char* iFormat)
-{
-    const int length = VORFormatFloat(iValue, iFormat, nullptr, 0);
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    VORFormatFloat(iValue, iFormat, text.data(), text.size());
-    text.pop_back();
-    return text;
+    AppendNumber(_Text, VORFloatFormat(iFormat), iValue);
 }
 
-} // namespace
-
-VORKTRNumber::VORKTRNumber(double iValue, const char* iFormat) : _Text(TextOf(iValue, iFormat)) {}
-
-VORKTRNumber::~VORKTRNumber() = default;
+VORKTRNumber::VORKTRNumber(long long iValue, const char* iFormat)
+{
+    AppendNumber(_Text, VORIntFormat(iFormat), iValue);
+}
 
 void VORKTRNumber::Report(unsigned int iFile, const char*, unsigned char, unsigned int) const
 {
@@ -28,12 +19,12 @@ void VORKTRNumber::Report(unsigned int iFile, const char*, unsigned char, unsign
 
 void VORKTRNumber::ASCIIReport(VORUnicodeString& ioText) const
 {
-    ioText.Append(UnicodeOf(_Text));
+    ioText.AppendBytes(_Text);
 }
 
 int VORKTRNumber::GetWidthInChar() const
 {
-    return CountChars(_Text);
+    return static_cast<int>(_Text.size());
 }
 
 // Three cells beside those of floats: what is before the decimal point, the point, the rest.
@@ -41,9 +32,9 @@ void VORKTRNumber::Report_in_List(unsigned int iFile, const char*, unsigned char
                                   char iWide) const
 {
     const std::size_t point = iWide ? _Text.find('.') : std::string::npos;
-    std::string html = "<TD ALIGN=RIGHT>" + _Text.substr(0, point) + "</TD>\n";
+    std::string html = InCell(false, Right, _Text.substr(0, point));
     if (point != std::string::npos)
-        html += "<TD ALIGN=CENTER>.</TD>\n<TD ALIGN=LEFT>" + _Text.substr(point + 1) + "</TD>\n";
+        html += InCell(false, Centred, ".") + InCell(false, Left, _Text.substr(point + 1));
     else if (iWide)
         html += "<TD COLSPAN=2>&nbsp;</TD>\n";
     WriteHtml(iFile, html);
@@ -52,6 +43,5 @@ void VORKTRNumber::Report_in_List(unsigned int iFile, const char*, unsigned char
 void VORKTRNumber::Report_in_Table(unsigned int iFile, const char*, unsigned char, unsigned int,
                                    char iHeader) const
 {
-    WriteHtml(iFile, (iHeader ? "<TH ALIGN=RIGHT>" : "<TD ALIGN=RIGHT>") + _Text +
-                         (iHeader ? "</TH>\n" : "</TD>\n"));
+    WriteHtml(iFile, InCell(iHeader, Right, _Text));
 }

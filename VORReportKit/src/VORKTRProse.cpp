@@ -8,11 +8,12 @@ VORKTRProse::VORKTRProse(const VORUnicodeString& iText, int iIndent, int iCellWi
     Add(iText);
 }
 
-VORKTRProse::~VORKTRProse() = default;
-
 VORKTRProse& VORKTRProse::Add(const VORUnicodeString& iText)
 {
-    _Pieces.push_back({iText, nullptr});
+    VORUnicodeString text = iText;
+    text.ReplaceAll("\n", " ");
+    text.ReplaceAll("\t", " ");
+    _Pieces.push_back({text, nullptr});
     return *this;
 }
 
@@ -26,7 +27,7 @@ std::string VORKTRProse::GetHtml() const
 {
     std::string html;
     for (const Piece& piece : _Pieces)
-        html += piece.place ? LinkHtml(*piece.place) : Escaped(piece.text);
+        html += piece.place ? LinkHtml(*piece.place) : Escaped(piece.text.GetView());
     return html;
 }
 
@@ -34,7 +35,7 @@ std::vector<std::string> VORKTRProse::GetLines(int iWidth) const
 {
     std::string text;
     for (const Piece& piece : _Pieces)
-        text += BytesOf(piece.place ? piece.place->name : piece.text);
+        text += (piece.place ? piece.place->name : piece.text).GetView();
     return BreakLines(text, iWidth);
 }
 
@@ -46,21 +47,20 @@ void VORKTRProse::Report(unsigned int iFile, const char*, unsigned char, unsigne
 void VORKTRProse::Report_in_Table(unsigned int iFile, const char*, unsigned char, unsigned int,
                                   char iHeader) const
 {
-    WriteHtml(iFile, (iHeader ? "<TH ALIGN=LEFT>" : "<TD ALIGN=LEFT>") + GetHtml() +
-                         (iHeader ? "</TH>\n" : "</TD>\n"));
+    WriteHtml(iFile, InCell(iHeader, Left, GetHtml()));
 }
 
 void VORKTRProse::ASCIIReport(VORUnicodeString& ioText) const
 {
-    ioText.Append(UnicodeOf(JoinIndented(GetLines(PageWidth - _Indent), _Indent) + "\n"));
+    ioText.AppendBytes(JoinIndented(GetLines(PageWidth - _Indent), _Indent) + "\n");
 }
 
 int VORKTRProse::GetWidthInChar() const
 {
-    return WidestLine(GetLines(_CellWidth));
+    return WidestLine(JoinIndented(GetLines(_CellWidth), 0));
 }
 
 void VORKTRProse::ASCIIReport_in_Table(VORUnicodeString& ioText) const
 {
-    ioText.Append(UnicodeOf(JoinIndented(GetLines(_CellWidth), 0)));
+    ioText.AppendBytes(JoinIndented(GetLines(_CellWidth), 0));
 }

@@ -1,11 +1,13 @@
 #include "VORKTRTableCaption.h"
 
+#include <atomic>
+
 #include "VORKTRKitPieces.h"
 
 namespace
 {
 
-int LastTableNumber = 0;
+std::atomic<int> LastTableNumber{0};
 
 int GetTableNumber()
 {
@@ -20,8 +22,6 @@ VORKTRTableCaption::VORKTRTableCaption(const VORUnicodeString& iCaption)
     : VORKTRCaption(Tables, iCaption)
 {
 }
-
-VORKTRTableCaption::~VORKTRTableCaption() = default;
 
 void VORKTRTableCaption::InitTableNumber()
 {
@@ -38,15 +38,15 @@ void VORKTRTableCaption::Report(unsigned int iFile, const char*, unsigned char i
 
 void VORKTRTableCaption::ASCIIReport(VORUnicodeString& ioText) const
 {
-    ioText.Append(UnicodeOf("\n" + JoinCentred(GetLines(CaptionWidth))));
+    ioText.AppendBytes("\n" + JoinCentred(GetLines(CaptionWidth)));
 }
 
 int VORKTRTableCaption::GetWidthInChar() const
 {
-    return WidestLine(GetLines(CellWidth));
+    return WidestLine(JoinIndented(GetLines(CellWidth), 0));
 }
 
 void VORKTRTableCaption::ASCIIReport_in_Table(VORUnicodeString& ioText) const
 {
-    ioText.Append(UnicodeOf(JoinIndented(GetLines(CellWidth), 0)));
+    ioText.AppendBytes(JoinIndented(GetLines(CellWidth), 0));
 }

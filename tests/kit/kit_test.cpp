@@ -1,0 +1,363 @@
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "VORKTRArrayTable.h"
+#include "VORKTRCharset.h"
+#include "VORKTRFigure.h"
+#include "VORKTRHeading.h"
+#include "VORKTRLink.h"
+#include "VORKTRLook.h"
+#include "VORKTRNumber.h"
+#include "VORKTRProse.h"
+#include "VORKTRReportTools.h"
+#include "VORKTRReportingBuffer.h"
+#include "VORKTRReportingFloat.h"
+#include "VORKTRReportingInt.h"
+#include "VORKTRReportingList.h"
+#include "VORKTRReportingText.h"
+#include "VORKTRTableCaption.h"
+#include "VORStatus.h"
+#include "support/Rendering.h"
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+class Site : public testing::Test
+{
+protected:
+    void Make() { EXPECT_EQ(_Report.MakeReport(_Directory.Path().c_str(), "Site"), VOR_S_OK); }
+    std::string Page(const std::string& iName) const { return ReadFile(_Directory.Path(iName)); }
+    template <typename Item>
+    Item& Add(Item* ioItem)
+    {
+        _Report.AddObject(ioItem);
+        return *ioItem;
+    }
+
+    const TemporaryDirectory _Directory;
+    const TemporaryDirectory _Source;
+    VORKTRReportingBuffer _Report;
+};
+
+bool Holds(const std::string& iText, const std::string& iPart)
+{
+    return iText.find(iPart) != std::string::npos;
+}
+
+} // namespace
+
+TEST_F(Site, LookReplacesTheStylesheetsOfTheSiteInEveryRun)
+{
+    auto& look = Add(new VORKTRLook);
+    Make();
+    const std::string builtIn = Page("main.css");
+    EXPECT_TRUE(Holds(builtIn, "@media print"));
+    EXPECT_FALSE(fs::exists(_Directory.Path("navigation.css"))); // a site of one page has none
+    Add(new VORKTRHeading("A", 1));
+    Add(new VORKTRHeading("B", 1));
+    _Report.Update();
+    EXPECT_EQ(Page("main.css"), builtIn);
+    EXPECT_FALSE(Holds(Page("navigation.css"), "capitalize"));
+    EXPECT_EQ(_Report.TakeWriteStatus(), VOR_S_OK);
+
+    WriteFile(_Source.Path("main.css"), "p{}");
+    _Report.RemoveObject(&look);
+    Add(new VORKTRLook(_Source.Path().c_str()));
+    _Report.Update();
+    EXPECT_EQ(Page("main.css"), "p{}");
+    EXPECT_TRUE(Holds(Page("navigation.css"), "capitalize")); // the report's own
+    EXPECT_EQ(_Report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
+}
+
+// A scan of 1,024 bytes finds the character set whatever a title of 350 bytes needs in front of it.
+TEST_F(Site, EveryPageThatBeginsNamesItsCharacterSetEarly)
+{
+    const std::string longest(350, 'x');
+    Add(new VORKTRCharset);
+    for (int order : {1, 2, 3, 1})
+        Add(new VORKTRHeading(longest.c_str(), order));
+    _Report.MakeReport(_Directory.Path().c_str(), longest.c_str());
+    for (const char* page :
+         {"page1.html", "page2.html", "page3.html", "page4.html", "navigation.html"}) {
+        const std::string html = Page(page);
+        EXPECT_LT(html.find("<META CHARSET=\"utf-8\">\n"), 1000u) << page;
+        EXPECT_EQ(html.find("<META CHARSET"), html.rfind("<META CHARSET")) << page;
+    }
+}
+
+TEST_F(Site, LinksLeadToWhatStandsBefore)
+{
+    WriteFile(_Source.Path("a.png"), "PNG");
+    auto& heading = Add(new VORKTRHeading("Model", 1));
+    auto& figure =
+        Add(new VORKTRFigure(_Source.Path("a.png").c_str(), "<Mode> 1", "A \"bow\"", 30));
+    auto& caption = Add(new VORKTRTableCaption("Loads & supports"));
+    auto& late = *new VORKTRTableCaption("Late");
+    Add(new VORKTRHeading("Check", 2));
+    auto& sub = Add(new VORKTRHeading("Sub", 3));
+    Add(new VORKTRHeading("End", 2));
+    auto& prose = Add(new VORKTRProse("See\n"));
+    prose.AddLink(heading).Add(", ").AddLink(figure).Add(", ").AddLink(caption).Add(", ");
+    prose.AddLink(sub).Add(", ").AddLink(late).Add(" & <so> on");
+    Add(&late);
+    ::setenv("KTRReportODT", "1", 1);
+    Make();
+    EXPECT_TRUE(Holds(Page("page2.html"),
+                      "<FIGURE ID=\"figure1\">\n<IMG SRC=\"file1.png\" ALT=\"A &quot;bow&quot;\" "
+                      "WIDTH=30>\n<FIGCAPTION>Figure 1: &lt;Mode&gt; 1</FIGCAPTION>"));
+    EXPECT_TRUE(Holds(Page("page2.html"), "ID=\"table1\" CLASS=\"tablecaption\" ALIGN=CENTER>"
+                                          "Table 1: Loads &amp; supports</DIV>"));
+    EXPECT_TRUE(fs::exists(_Directory.Path("file1.png")));
+    EXPECT_TRUE(Holds(Page("page4.html"),
+                      "<P>See <A HREF=\"page2.html#0\">Model</A>, "
+                      "<A HREF=\"page2.html#figure1\">Figure 1</A>, "
+                      "<A HREF=\"page2.html#table1\">Table 1</A>, "
+                      "<A HREF=\"page3.html#1\">Sub</A>, Table ? &amp; &lt;so&gt; on</P>\n"));
+    EXPECT_TRUE(Holds(TextOf(prose), "See Model, Figure 1, Table 1, Sub, Table 2 & <so> on\n"));
+
+    // Numbers go on in the next run; a target that is gone leaves its name.
+    EXPECT_EQ(_Report.RemoveObject(&figure), VOR_S_OK);
+    EXPECT_FALSE(fs::exists(_Directory.Path("file1.png")));
+    _Report.Update();
+    EXPECT_TRUE(Holds(Page("page4.html"), "</A>, Figure 1, <A HREF=\"page2.html#table3\">Table 3"));
+    EXPECT_EQ(_Report.TakeWriteStatus(), VOR_S_OK);
+}
+
+TEST_F(Site, SinglePageHasLinksWithinIt)
+{
+    auto& heading = Add(new VORKTRHeading("Only", 1));
+    auto& link = Add(new VORKTRLink(heading));
+    EXPECT_EQ(HtmlOf(link), "Only");
+    Make();
+    EXPECT_TRUE(Holds(Page("index.html"), "<A HREF=\"#2\">Only</A>"));
+    EXPECT_EQ(link.GetWidthInChar(), 4);
+}
+
+TEST(Caption, TakesANumberForTheFirstTextOnly)
+{
+    VORKTRTableCaption::InitTableNumber();
+    VORKTRReportTools::InitFigureNumber();
+    const VORKTRTableCaption first("A caption that is too long for one line of a cell by far");
+    const VORKTRTableCaption second("Second");
+    EXPECT_EQ(first.GetWidthInChar(), 39);
+    EXPECT_EQ(CellTextOf(first),
+              "Table 1: A caption that is too long for\none line of a cell by far\n");
+    EXPECT_EQ(TextOf(second), "\n" + Repeat(32, " ") + "Table 2: Second\n");
+    EXPECT_EQ(TextOf(second), "\n" + Repeat(32, " ") + "Table 2: Second\n");
+    const VORKTRFigure figure("mode.png", "Mode", "");
+    EXPECT_EQ(TextOf(figure),
+              "\n" + Repeat(36, " ") + "[Image]\n" + Repeat(33, " ") + "Figure 1: Mode\n\n");
+    VORKTRTableCaption::InitTableNumber();
+    EXPECT_TRUE(Holds(HtmlOf(second), "Table 1: Second"));
+}
+
+TEST(Prose, BreaksBetweenWords)
+{
+    const std::string eighty = Repeat(20, "\u00e4b\u00b2 ");
+    const struct {
+        std::string text;
+        int indent;
+        std::string lines;
+    } cases[] = {
+        {"", 0, "\n"},
+        {"  a \t b\n\nc ", 2, "  a b c\n\n"},
+        {eighty.substr(0, eighty.size() - 1) + "x", 0,
+         eighty.substr(0, eighty.size() - 1) + "x\n\n"},
+        {eighty + "x", 0, eighty.substr(0, eighty.size() - 1) + "\nx\n\n"},
+        {"a " + Repeat(81, "w") + " b", 0, "a\n" + Repeat(81, "w") + "\nb\n\n"},
+        {Repeat(10, "1234567 "), 4, "    " + Repeat(8, "1234567 ") + "1234567\n    1234567\n\n"},
+        {"no\u00a0break", 0, "no\u00a0break\n\n"},
+    };
+    for (const auto& [text, indent, lines] : cases)
+        EXPECT_EQ(TextOf(VORKTRProse(text.c_str(), indent)), lines) << text;
+    const VORKTRProse cell("Every bar is safe", 4, 9);
+    EXPECT_EQ(CellTextOf(cell), "Every bar\nis safe\n");
+    EXPECT_EQ(cell.GetWidthInChar(), 9);
+    EXPECT_EQ(Written([&](unsigned int iFile) { cell.Report_in_Table(iFile, "", 0, 0, 1); }),
+              "<TH ALIGN=LEFT>Every bar is safe</TH>\n");
+}
+
+TEST(Number, KeepsItsPrecision)
+{
+    const struct {
+        VORKTRNumber number;
+        std::string text;
+    } cases[] = {
+        {VORKTRNumber(2.1e11, "%.0f"), "210000000000"},
+        {VORKTRNumber(0.1, "%.17g"), "0.10000000000000001"},
+        {VORKTRNumber(-1.5, "%8.2f"), "   -1.50"},
+        {VORKTRNumber(2.5, "%d"), "2.5"},
+        {VORKTRNumber(1.0, ("%.2f " + Repeat(100, "x")).c_str()), "1.00 " + Repeat(100, "x")},
+        {VORKTRNumber(9007199254740993), "9007199254740993"},
+        {VORKTRNumber(std::size_t{7413}, "%6d"), "  7413"},
+        {VORKTRNumber(-3), "-3"},
+    };
+    for (const auto& [number, text] : cases) {
+        EXPECT_EQ(HtmlOf(number), text);
+        EXPECT_EQ(TextOf(number), text);
+        EXPECT_EQ(number.GetWidthInChar(), static_cast<int>(text.size()));
+    }
+}
+
+TEST(Number, AlignsWithTheFloatsOfAList)
+{
+    VORKTRReportingList list('=');
+    list.addLine("a", new VORKTRNumber(12.5, "%.2f"), "");
+    const std::string alone = HtmlOf(list);
+    EXPECT_TRUE(Holds(alone, "<TD ALIGN=RIGHT>12.50</TD>\n<TD ALIGN=LEFT>&nbsp;"));
+    list.addLine("b", new VORKTRNumber(7), "");
+    list.addLine("c", 1.0, "", "%.1f");
+    const std::string html = HtmlOf(list);
+    EXPECT_TRUE(Holds(html, "<TD ALIGN=RIGHT>12</TD>\n<TD ALIGN=CENTER>.</TD>\n"
+                            "<TD ALIGN=LEFT>50</TD>\n<TD ALIGN=LEFT>&nbsp;"));
+    EXPECT_TRUE(Holds(html, "<TD ALIGN=RIGHT>7</TD>\n<TD COLSPAN=2>&nbsp;</TD>\n"));
+}
+
+namespace
+{
+
+constexpr const char* Formats[] = {"%.3f", "%g", "%d", "%.0f", "% 5d", "%s", "%6.1e m\u00b2", ""};
+const char* const Texts[] = {"",       "node",          "a < b & c",    "two\nlines",
+                             "ends\n", "\u03c3 \u00b2", "\tx\n\nthird", "a somewhat longer text"};
+constexpr int RowNb = 6;
+
+struct Row {
+    float real;
+    int number;
+    double wide;
+    long long large;
+    std::string text;
+    VORUnicodeString unicode;
+};
+
+/// An array table of random columns, and a reporting table of the same cells.
+struct RandomTable {
+    explicit RandomTable(unsigned int iSeed)
+        : random(iSeed), begin(Pick(RowNb)), end(begin + Pick(RowNb - begin + 1)),
+          hasHeadings(Pick(3) > 0), style(static_cast<unsigned long>(Pick(32))),
+          table(style, RowNb), expected(style)
+    {
+        for (Row& row : rows) {
+            const int number = Pick(2000000) - 1000000;
+            row = {static_cast<float>(number) / 7e3f,
+                   number,
+                   number * 1e10 / 7,
+                   number * 10000000000LL,
+                   Texts[Pick(8)],
+                   Texts[Pick(8)]};
+        }
+        EXPECT_EQ(table.SetRows(begin, end), VOR_S_OK);
+        if (Pick(2) == 1) {
+            const VORUnicodeString heading = hasHeadings ? "#" : "";
+            table.AddIndexColumn(heading, 100);
+            Expect(heading, [](int iRow) { return new VORKTRReportingInt(100 + iRow, "%d"); });
+        }
+        for (int count = Pick(6); count > 0; --count)
+            AddColumn(Pick(6), Formats[Pick(8)]);
+    }
+
+    int Pick(int iCount) { return static_cast<int>(random() % static_cast<unsigned>(iCount)); }
+
+    void AddColumn(int iKind, const char* iFormat)
+    {
+        switch (iKind) {
+        case 0:
+            return Add<VORKTRReportingFloat>(&Row::real, iFormat);
+        case 1:
+            return Add<VORKTRReportingInt>(&Row::number, iFormat);
+        case 2:
+            return Add<VORKTRNumber>(&Row::wide, iFormat);
+        case 3:
+            return Add<VORKTRNumber>(&Row::large, iFormat);
+        case 4:
+            return Add<VORKTRReportingText>(&Row::text);
+        default:
+            return Add<VORKTRReportingText>(&Row::unicode);
+        }
+    }
+
+    template <typename Item, typename Value, typename... Format>
+    void Add(Value Row::*iValue, Format... iFormat)
+    {
+        const char* const text = columns == 0 ? "first" : Texts[Pick(8)];
+        const VORUnicodeString heading = hasHeadings ? text : "";
+        const VORUnicodeString unit = hasHeadings && Pick(2) == 1 ? "mm" : "";
+        table.AddColumn(heading, unit, &(rows[0].*iValue), iFormat..., sizeof(Row));
+        Expect(unit == "" ? heading : heading + "\n" + unit,
+               [&](int iRow) { return new Item(rows[iRow].*iValue, iFormat...); });
+    }
+
+    template <typename MakeItem>
+    void Expect(const VORUnicodeString& iHeading, MakeItem iMake)
+    {
+        if (hasHeadings)
+            expected.SetText(0, columns, iHeading);
+        for (int row = begin; row < end; ++row)
+            expected.SetObj(row - begin + (hasHeadings ? 1 : 0), columns, iMake(row));
+        ++columns;
+    }
+
+    std::mt19937 random;
+    Row rows[RowNb];
+    int begin;
+    int end;
+    bool hasHeadings;
+    unsigned long style;
+    int columns = 0;
+    VORKTRArrayTable table;
+    VORKTRReportingTable expected;
+};
+
+} // namespace
+
+TEST(ArrayTable, LooksAsAReportingTableOfTheSameCells)
+{
+    std::vector<std::unique_ptr<RandomTable>> tables;
+    for (unsigned int seed = 0; seed < 3000 && !HasFailure(); ++seed) {
+        const RandomTable& random = *tables.emplace_back(new RandomTable(seed));
+        SCOPED_TRACE(seed);
+        EXPECT_EQ(TextOf(random.table), TextOf(random.expected));
+        EXPECT_EQ(CellTextOf(random.table), CellTextOf(random.expected));
+        EXPECT_EQ(random.table.GetWidthInChar(), random.expected.GetWidthInChar());
+    }
+    const auto htmlOf = [&](auto iTable) {
+        return Written([&](unsigned int iFile) {
+            for (const auto& random : tables)
+                ((*random).*iTable).Report(iFile, "", 0, 0);
+        });
+    };
+    EXPECT_EQ(htmlOf(&RandomTable::table), htmlOf(&RandomTable::expected));
+}
+
+// Blocks of a large table join without a seam.
+TEST(ArrayTable, OfManyRows)
+{
+    constexpr int rows = 20000;
+    std::vector<float> values(rows);
+    VORKTRReportingTable expected(VORKTRTableRuled);
+    for (int row = 0; row < rows; ++row) {
+        values[static_cast<std::size_t>(row)] = static_cast<float>(row) * 0.37f;
+        expected.SetFloat(row, 0, values[static_cast<std::size_t>(row)], "%.2f");
+    }
+    VORKTRArrayTable table(VORKTRTableRuled, rows);
+    table.AddColumn("", "", values.data(), "%.2f");
+    EXPECT_TRUE(HtmlOf(table) == HtmlOf(expected));
+    EXPECT_TRUE(TextOf(table) == TextOf(expected));
+}
+
+TEST(ArrayTable, RefusesWhatItCannotShow)
+{
+    VORKTRArrayTable table(0, 3);
+    EXPECT_EQ(table.AddColumn("a", "", static_cast<const float*>(nullptr), "%g"), VOR_E_INVALIDARG);
+    EXPECT_EQ(table.AddColumn("a", "", static_cast<const std::string*>(nullptr)), VOR_E_INVALIDARG);
+    EXPECT_EQ(HtmlOf(table) + TextOf(table), "");
+    for (const auto& [begin, end] : {std::pair{-1, 2}, {2, 1}, {0, 4}})
+        EXPECT_EQ(table.SetRows(begin, end), VOR_E_INVALIDARG);
+}
