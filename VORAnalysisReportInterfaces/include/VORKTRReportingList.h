@@ -1,10 +1,14 @@
 #ifndef VORKTRReportingList_h
 #define VORKTRReportingList_h
 
+#include <cstddef>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "VORKTRReportingObj.h"
 #include "detail/VORKTRSteppedArray.h"
+#include "detail/VORKTRValue.h"
 
 /// Lines of label, separator, value and unit, in aligned columns. When a value is a float, values
 /// align on their decimal point in HTML. Labels and units are HTML, not escaped; a text value is.
@@ -59,20 +63,26 @@ public:
     void ASCIIReport_in_Table(VORUnicodeString& ioText) const override;
 
 private:
+    // The label and the unit stand in _Texts, one behind the other: strings of their own would take
+    // twice the memory.
     struct Line {
-        VORUnicodeString label;
-        std::unique_ptr<VORKTRReportingObj> value;
-        VORUnicodeString unit;
+        std::size_t label; // where it begins
+        unsigned int labelSize;
+        unsigned int unitSize;
+        VORKTRValue value;
     };
 
-    int Store(const VORUnicodeString& iLabel, std::unique_ptr<VORKTRReportingObj> ioValue,
-              const VORUnicodeString& iUnit);
+    std::string_view LabelOf(const Line& iLine) const;
+    std::string_view UnitOf(const Line& iLine) const;
+    int Store(const VORUnicodeString& iLabel, VORKTRValue ioValue, const VORUnicodeString& iUnit);
     bool HasFloats() const;
-    void WriteSeparatorCell(unsigned int iFile, const Line& iLine) const;
+    void AppendSeparatorCell(Fragment& ioHtml, const Line& iLine) const;
     void AppendValue(VORUnicodeString& out, const Line& iLine, int iValueWidth,
                      int iUnitWidth) const;
 
+    VORKTRValues _Values; // outlives the lines
     VORKTRSteppedArray<Line> _Lines;
+    std::string _Texts;
     char _Separator;
 };
 

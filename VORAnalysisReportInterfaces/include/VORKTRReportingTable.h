@@ -2,10 +2,10 @@
 #define VORKTRReportingTable_h
 
 #include <cstddef>
-#include <memory>
 #include <vector>
 
 #include "VORKTRReportingObj.h"
+#include "detail/VORKTRValue.h"
 
 /// @{ The style of a table is a sum of these: the first row, the last row, the first column are
 /// headers; rules between the columns and a border; not centred on the page.
@@ -17,7 +17,8 @@ constexpr unsigned long VORKTRTableNotCentered = 0x10;
 /// @}
 
 /// A grid of cells, each an item or empty. Rows and columns count from 0; the grid grows to hold
-/// each cell that is set. Integers and texts are centred, floats right-aligned.
+/// each cell that is set. In HTML floats are right-aligned, all else is centred; as text every cell
+/// is centred in its column.
 class VORKTR_EXPORT VORKTRReportingTable : public VORKTRReportingObj
 {
 public:
@@ -57,7 +58,8 @@ public:
     /// Appends the table's text, centred on 80 columns unless inTable is not 0.
     void ASCIIReport_generic(VORUnicodeString& out, unsigned char inTable) const;
     /// Appends the lines of one row: indent, then each cell between padLeft and padRight, in
-    /// columns of the given widths.
+    /// columns of the given widths, one for each column of the table. Nothing for a row that the
+    /// table has not, and without widths.
     void PrintRow(VORUnicodeString& out, int row, const VORUnicodeString& indent,
                   const VORUnicodeString& padLeft, const VORUnicodeString& padRight,
                   const int* widths) const;
@@ -71,27 +73,29 @@ public:
     void ASCIIReport_in_Table(VORUnicodeString& ioText) const override;
 
 private:
-    using Cell = std::unique_ptr<VORKTRReportingObj>;
+    class RowWriter;
 
-    Cell& CellAt(int iRow, int iColumn) { return _Cells[Offset(iRow, iColumn)]; }
-    const Cell& CellAt(int iRow, int iColumn) const { return _Cells[Offset(iRow, iColumn)]; }
+    VORKTRValue& CellAt(int iRow, int iColumn) { return _Cells[Offset(iRow, iColumn)]; }
+    const VORKTRValue& CellAt(int iRow, int iColumn) const { return _Cells[Offset(iRow, iColumn)]; }
     std::size_t Offset(int iRow, int iColumn) const
     {
         return static_cast<std::size_t>(iRow) * _Stride + static_cast<std::size_t>(iColumn);
     }
 
-    template <typename ItemClass, typename... Arguments>
+    template <typename... Arguments>
     int SetNew(int iRow, int iColumn, const Arguments&... iArguments);
-    void Widen(std::size_t iColumns);
+    void Rearrange(int iRows, int iColumns);
+    std::vector<int> MeasureColumns() const;
     char CellStyle(int iRow, int iColumn) const;
     bool HasRuleBelow(int iRow) const;
     char SeparatorChar() const;
     char EdgeChar() const;
     char SeparatorBehind(int iColumn) const;
 
+    VORKTRValues _Values; // outlives the cells
     // Row-major; a row has room for _Stride cells, so that columns can be added without moving
     // every row each time.
-    std::vector<Cell> _Cells;
+    std::vector<VORKTRValue> _Cells;
     std::size_t _Stride = 0;
     int _RowNb = 0;
     int _ColumnNb = 0;

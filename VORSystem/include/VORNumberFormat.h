@@ -9,6 +9,7 @@
 /// is that of the "C" locale, whatever the process uses.
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 
 #include "VORSystemExport.h"
@@ -45,7 +46,7 @@ class VORSYSTEM_EXPORT VORNumberFormat
 {
 public:
     /// True when it was made of this format, which is not null.
-    bool IsMadeOf(const char* iFormat) const { return _Text == iFormat; }
+    bool IsMadeOf(const char* iFormat) const { return std::strcmp(_Text.c_str(), iFormat) == 0; }
 
 protected:
     /// iConversions are the letters that its kind of number takes; see the kinds for the rest.

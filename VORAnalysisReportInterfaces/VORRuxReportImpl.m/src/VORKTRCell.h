@@ -3,12 +3,17 @@
 
 #include <string_view>
 
+#include "VORNumberFormat.h"
+
+class Fragment;
+
 // The parts of HTML tables that lists, tables and their cells share.
 
 constexpr std::string_view OpenRow = "<TR>\n";
 constexpr std::string_view CloseRow = "</TR>\n";
 constexpr std::string_view CloseTable = "</TABLE>\n";
 constexpr std::string_view OpenLeftTD = "<TD ALIGN=LEFT>";
+constexpr std::string_view OpenCenterTD = "<TD ALIGN=CENTER>";
 constexpr std::string_view OpenRightTD = "<TD ALIGN=RIGHT>";
 constexpr std::string_view CloseTD = "</TD>\n";
 constexpr std::string_view CloseTH = "</TH>\n";
@@ -22,13 +27,26 @@ struct CellTags {
 
 constexpr CellTags CenteredCell(char iHeader)
 {
-    return iHeader ? CellTags{"<TH ALIGN=CENTER>", CloseTH}
-                   : CellTags{"<TD ALIGN=CENTER>", CloseTD};
+    return iHeader ? CellTags{"<TH ALIGN=CENTER>", CloseTH} : CellTags{OpenCenterTD, CloseTD};
 }
 
 constexpr CellTags RightCell(char iHeader)
 {
     return iHeader ? CellTags{"<TH ALIGN=RIGHT>", CloseTH} : CellTags{OpenRightTD, CloseTD};
 }
+
+/// @{ How numbers and texts look in the cells of tables (iHeader as for an item) and in list lines
+/// (iWide as for an item); each stands beside the item of its kind.
+void AppendIntInTable(Fragment& ioHtml, int iValue, const VORIntFormat& iFormat, char iHeader);
+void AppendIntInList(Fragment& ioHtml, int iValue, const VORIntFormat& iFormat, char iWide);
+void AppendFloatInTable(Fragment& ioHtml, float iValue, const VORFloatFormat& iFormat,
+                        char iHeader);
+void AppendFloatInList(Fragment& ioHtml, float iValue, const VORFloatFormat& iFormat);
+void AppendTextInTable(Fragment& ioHtml, std::string_view iText, char iHeader);
+void AppendTextInList(Fragment& ioHtml, std::string_view iText, char iWide);
+/// @}
+
+/// Length of a text's longest line in characters.
+int WidthOfText(std::string_view iText);
 
 #endif

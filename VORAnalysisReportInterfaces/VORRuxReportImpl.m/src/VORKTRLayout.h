@@ -2,6 +2,8 @@
 #define VORKTRLayout_h
 
 #include <algorithm>
+#include <cstddef>
+#include <string_view>
 
 #include "VORUnicodeString.h"
 
@@ -15,6 +17,14 @@ constexpr int FrameWidth = FrameInnerWidth + 2; // of its rules, behind one blan
 inline VORUnicodeString Repeat(char iChar, int iCount)
 {
     return VORUnicodeString(static_cast<VORUnicodeChar>(iChar), iCount);
+}
+
+/// Appends blanks; none when the count is not positive.
+inline void AppendBlanks(VORUnicodeString& ioText, int iCount)
+{
+    constexpr std::string_view blanks = "                                ";
+    for (; iCount > 0; iCount -= static_cast<int>(blanks.size()))
+        ioText.AppendBytes(blanks.substr(0, static_cast<std::size_t>(iCount)));
 }
 
 /// Blanks on the left of what is iWidth wide, to centre it on the page; 0 when it does not fit.

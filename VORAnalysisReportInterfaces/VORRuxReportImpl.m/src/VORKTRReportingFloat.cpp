@@ -114,16 +114,30 @@ int VORKTRReportingFloat::GetWidthInChar() const
 void VORKTRReportingFloat::Report_in_List(unsigned int iFile, const char*, unsigned char,
                                           unsigned int, char) const
 {
-    const FloatText text(_Value, _Format);
-    const std::size_t point = text.Get().find(float_separator());
-    WriteFragment(iFile, OpenRightTD, text.Get().substr(0, point), CloseTD, CenteredCell(0).open,
-                  text.Get().substr(point, 1), CloseTD, OpenLeftTD, text.Get().substr(point + 1),
-                  CloseTD);
+    ShortFragment html(iFile);
+    AppendFloatInList(html, _Value, _Format);
+    html.Send();
 }
 
 void VORKTRReportingFloat::Report_in_Table(unsigned int iFile, const char*, unsigned char,
                                            unsigned int, char cellStyle) const
 {
-    const CellTags cell = RightCell(cellStyle);
-    WriteFragment(iFile, cell.open, FloatText(_Value, _Format).Get(), cell.close);
+    ShortFragment html(iFile);
+    AppendFloatInTable(html, _Value, _Format, cellStyle);
+    html.Send();
+}
+
+void AppendFloatInTable(Fragment& ioHtml, float iValue, const VORFloatFormat& iFormat, char iHeader)
+{
+    const CellTags cell = RightCell(iHeader);
+    ioHtml.Append(cell.open, FloatText(iValue, iFormat).Get(), cell.close);
+}
+
+void AppendFloatInList(Fragment& ioHtml, float iValue, const VORFloatFormat& iFormat)
+{
+    const FloatText made(iValue, iFormat);
+    const std::string_view text = made.Get();
+    const std::size_t point = text.find(VORKTRReportingFloat::float_separator());
+    ioHtml.Append(OpenRightTD, text.substr(0, point), CloseTD, OpenCenterTD, text.substr(point, 1),
+                  CloseTD, OpenLeftTD, text.substr(point + 1), CloseTD);
 }

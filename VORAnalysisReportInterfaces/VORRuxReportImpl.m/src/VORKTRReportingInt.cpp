@@ -1,10 +1,18 @@
 #include "VORKTRReportingInt.h"
 
 #include <cstdlib>
+#include <string_view>
 
 #include "VORKTRCell.h"
 #include "VORKTRFragment.h"
 #include "VORKTRIntText.h"
+
+namespace
+{
+
+constexpr std::string_view TwoEmptyCells = "<TD COLSPAN=2>&nbsp;</TD>\n";
+
+} // namespace
 
 VORKTRReportingInt::VORKTRReportingInt(int value, const char* format)
     : _Value(value), _Format(format)
@@ -48,5 +56,18 @@ void VORKTRReportingInt::Report_in_List(unsigned int iFile, const char* iPath,
 {
     VORKTRReportingObj::Report_in_List(iFile, iPath, iFrames, iNavigationFile, 0);
     if (hasFloats)
-        WriteFragment(iFile, "<TD COLSPAN=2>&nbsp;", CloseTD);
+        WriteFragment(iFile, TwoEmptyCells);
+}
+
+void AppendIntInTable(Fragment& ioHtml, int iValue, const VORIntFormat& iFormat, char iHeader)
+{
+    const CellTags cell = CenteredCell(iHeader);
+    ioHtml.Append(cell.open, IntText(iValue, iFormat).Get(), cell.close);
+}
+
+void AppendIntInList(Fragment& ioHtml, int iValue, const VORIntFormat& iFormat, char iWide)
+{
+    ioHtml.Append(OpenRightTD, IntText(iValue, iFormat).Get(), CloseTD);
+    if (iWide)
+        ioHtml.Append(TwoEmptyCells);
 }

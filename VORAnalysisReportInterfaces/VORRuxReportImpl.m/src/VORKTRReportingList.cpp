@@ -8,33 +8,47 @@
 #include "VORKTRCell.h"
 #include "VORKTRFragment.h"
 #include "VORKTRLayout.h"
-#include "VORKTRMakeItem.h"
-#include "VORKTRReportingFloat.h"
-#include "VORKTRReportingInt.h"
-#include "VORKTRReportingText.h"
 
 VORKTRReportingList::VORKTRReportingList(char separator) : _Separator(separator) {}
 
 VORKTRReportingList::~VORKTRReportingList() = default;
 
-int VORKTRReportingList::Store(const VORUnicodeString& iLabel,
-                               std::unique_ptr<VORKTRReportingObj> ioValue,
+std::string_view VORKTRReportingList::LabelOf(const Line& iLine) const
+{
+    return std::string_view(_Texts).substr(iLine.label, iLine.labelSize);
+}
+
+std::string_view VORKTRReportingList::UnitOf(const Line& iLine) const
+{
+    return std::string_view(_Texts).substr(iLine.label + iLine.labelSize, iLine.unitSize);
+}
+
+int VORKTRReportingList::Store(const VORUnicodeString& iLabel, VORKTRValue ioValue,
                                const VORUnicodeString& iUnit)
 {
-    _Lines.Append({iLabel, std::move(ioValue), iUnit});
+    const std::string_view label = BytesOf(iLabel);
+    const std::string_view unit = BytesOf(iUnit);
+    Line line{_Texts.size(), static_cast<unsigned int>(label.size()),
+              static_cast<unsigned int>(unit.size()), std::move(ioValue)};
+    const VORKTRSteppedArray<Line>::Room room(_Lines);
+    const std::size_t size = _Texts.size() + label.size() + unit.size();
+    if (size > _Texts.capacity())
+        _Texts.reserve(std::max(size, 2 * _Texts.capacity()));
+    _Texts.append(label).append(unit);
+    _Lines.Append(std::move(line));
     return 0;
 }
 
 int VORKTRReportingList::addLine(const VORUnicodeString& label, const VORUnicodeString& value,
                                  const VORUnicodeString& unit)
 {
-    return Store(label, MakeItem<VORKTRReportingText>(value), unit);
+    return Store(label, _Values.Make(value), unit);
 }
 
 int VORKTRReportingList::addLine(const VORUnicodeString& label, float value,
                                  const VORUnicodeString& unit, const char* format)
 {
-    return Store(label, MakeItem<VORKTRReportingFloat>(value, format), unit);
+    return Store(label, _Values.Make(value, format), unit);
 }
 
 int VORKTRReportingList::addLine(const VORUnicodeString& label, double value,
@@ -46,13 +60,13 @@ int VORKTRReportingList::addLine(const VORUnicodeString& label, double value,
 int VORKTRReportingList::addLine(const VORUnicodeString& label, int value,
                                  const VORUnicodeString& unit, const char* format)
 {
-    return Store(label, MakeItem<VORKTRReportingInt>(value, format), unit);
+    return Store(label, _Values.Make(value, format), unit);
 }
 
 int VORKTRReportingList::addLine(const VORUnicodeString& label, VORKTRReportingObj* value,
                                  const VORUnicodeString& unit)
 {
-    return Store(label, std::unique_ptr<VORKTRReportingObj>(value), unit);
+    return Store(label, VORKTRValue(std::unique_ptr<VORKTRReportingObj>(value)), unit);
 }
 
 char VORKTRReportingList::float_separator()
@@ -68,10 +82,9 @@ void VORKTRReportingList::GetColsWidth(int& labelWidth, int& valueWidth, int& un
     labelWidth = valueWidth = unitWidth = 0;
     for (int i = 0; i < _Lines.GetSize(); ++i) {
         const Line& line = _Lines[i];
-        labelWidth = std::max(labelWidth, line.label.GetLengthInChar());
-        if (line.value)
-            valueWidth = std::max(valueWidth, line.value->GetWidthInChar());
-        unitWidth = std::max(unitWidth, line.unit.GetLengthInChar());
+        labelWidth = std::max(labelWidth, CountChars(LabelOf(line)));
+        valueWidth = std::max(valueWidth, line.value.GetWidthInChar());
+        unitWidth = std::max(unitWidth, CountChars(UnitOf(line)));
     }
 }
 
@@ -83,7 +96,7 @@ int VORKTRReportingList::GetType() const
 bool VORKTRReportingList::HasFloats() const
 {
     for (int i = 0; i < _Lines.GetSize(); ++i) {
-        if (_Lines[i].value && _Lines[i].value->GetType() == VORKTRReportingFloatKind)
+        if (_Lines[i].value.IsFloat())
             return true;
     }
     return false;
@@ -93,27 +106,33 @@ void VORKTRReportingList::Report(unsigned int iFile, const char* iPath, unsigned
                                  unsigned int iNavigationFile) const
 {
     const bool hasFloats = HasFloats();
-    WriteFragment(iFile, "<P>\n<TABLE BORDER=0>\n");
+    Fragment html(iFile);
+    html.Append("<P>\n<TABLE BORDER=0>\n");
     for (int i = 0; i < _Lines.GetSize(); ++i) {
         const Line& line = _Lines[i];
-        if (!line.value)
+        if (line.value.IsEmpty())
             continue;
-        WriteFragment(iFile, OpenRow);
-        WriteFragment(iFile, OpenLeftTD, line.label, CloseTD);
-        WriteSeparatorCell(iFile, line);
-        line.value->Report_in_List(iFile, iPath, iFrames, iNavigationFile, hasFloats);
-        WriteFragment(iFile, OpenLeftTD, "&nbsp;", line.unit, CloseTD, CloseRow);
+        html.Append(OpenRow, OpenLeftTD, LabelOf(line), CloseTD);
+        AppendSeparatorCell(html, line);
+        if (line.value.IsItem()) {
+            html.Send();
+            line.value.GetItem().Report_in_List(iFile, iPath, iFrames, iNavigationFile, hasFloats);
+        } else {
+            line.value.AppendInList(html, hasFloats);
+        }
+        html.Append(OpenLeftTD, "&nbsp;", UnitOf(line), CloseTD, CloseRow);
+        html.SendIfLong();
     }
-    WriteFragment(iFile, CloseTable, "</P>\n", "\n");
+    html.Append(CloseTable, "</P>\n", "\n");
+    html.Send();
 }
 
-void VORKTRReportingList::WriteSeparatorCell(unsigned int iFile, const Line& iLine) const
+void VORKTRReportingList::AppendSeparatorCell(Fragment& ioHtml, const Line& iLine) const
 {
-    const std::string_view separator(&_Separator, 1);
-    if (iLine.label != "")
-        WriteFragment(iFile, CenteredCell(0).open, separator, CloseTD);
+    if (iLine.labelSize > 0)
+        ioHtml.Append(OpenCenterTD, std::string_view(&_Separator, 1), CloseTD);
     else
-        WriteFragment(iFile, EmptyCell);
+        ioHtml.Append(EmptyCell);
 }
 
 void VORKTRReportingList::ASCIIReport(VORUnicodeString& ioText) const
@@ -132,15 +151,15 @@ void VORKTRReportingList::ASCIIReport_generic(VORUnicodeString& out, unsigned ch
     int valueWidth = 0;
     int unitWidth = 0;
     GetColsWidth(labelWidth, valueWidth, unitWidth);
-    const VORUnicodeString separator(&_Separator, 1);
     for (int i = 0; i < _Lines.GetSize(); ++i) {
         const Line& line = _Lines[i];
-        out.Append(inTable ? "" : "  ").Append(line.label);
-        out.Append(Repeat(' ', labelWidth - line.label.GetLengthInChar())).Append(" ");
-        out.Append(line.label != "" ? separator : " ").Append(" ");
-        if (line.value)
+        const std::string_view label = LabelOf(line);
+        out.AppendBytes(inTable ? "" : "  ").AppendBytes(label);
+        AppendBlanks(out, labelWidth - CountChars(label) + 1);
+        out.AppendBytes(label.empty() ? " " : std::string_view(&_Separator, 1)).AppendBytes(" ");
+        if (!line.value.IsEmpty())
             AppendValue(out, line, valueWidth, unitWidth);
-        out.Append("\n");
+        out.AppendBytes("\n");
     }
 }
 
@@ -149,10 +168,16 @@ void VORKTRReportingList::AppendValue(VORUnicodeString& out, const Line& iLine, 
                                       int iUnitWidth) const
 {
     if (iUnitWidth > 0)
-        out.Append(Repeat(' ', iValueWidth - iLine.value->GetWidthInChar()));
-    iLine.value->ASCIIReport_in_Table(out);
+        AppendBlanks(out, iValueWidth - iLine.value.GetWidthInChar());
+    if (iLine.value.IsItem()) {
+        iLine.value.GetItem().ASCIIReport_in_Table(out);
+    } else {
+        std::string text;
+        iLine.value.AppendText(text);
+        out.AppendBytes(text);
+    }
     if (iUnitWidth > 0)
-        out.Append(" ").Append(iLine.unit);
+        out.AppendBytes(" ").AppendBytes(UnitOf(iLine));
 }
 
 int VORKTRReportingList::GetWidthInChar() const

@@ -10,10 +10,6 @@
 #include "VORKTRCell.h"
 #include "VORKTRFragment.h"
 #include "VORKTRLayout.h"
-#include "VORKTRMakeItem.h"
-#include "VORKTRReportingFloat.h"
-#include "VORKTRReportingInt.h"
-#include "VORKTRReportingText.h"
 #include "VORStatus.h"
 
 namespace
@@ -28,7 +24,7 @@ bool IsPosition(int iRow, int iColumn)
     return iRow >= 0 && iColumn >= 0 && iRow < INT_MAX && iColumn < INT_MAX;
 }
 
-/// Blanks around a table and its cells.
+/// Width of a table, and blanks around it and its cells.
 struct Placement {
     int width;
     VORUnicodeString indent;
@@ -40,32 +36,36 @@ struct Placement {
 Placement PlaceOnPage(int iWidth, int iColumns)
 {
     Placement place{iWidth, "", "", ""};
-    for (VORUnicodeString* const pad : {&place.padRight, &place.padLeft}) {
-        if (place.width + iColumns < PageWidth) {
-            place.width += iColumns;
-            *pad = " ";
-        }
+    if (place.width + iColumns < PageWidth) {
+        place.width += iColumns;
+        place.padRight = " ";
+    }
+    if (place.width + iColumns < PageWidth) {
+        place.width += iColumns;
+        place.padLeft = " ";
     }
     place.indent = Repeat(' ', MarginOf(place.width));
     return place;
 }
 
+// Two blanks, given up when a line would be as long as the page: first one of them, then both.
 VORUnicodeString IndentOfNotCentered(int iWidth)
 {
-    return Repeat(' ', std::clamp(PageWidth - 1 - iWidth, 0, 2));
+    return Repeat(' ', iWidth < PageWidth - 2 ? 2 : iWidth == PageWidth - 2 ? 1 : 0);
 }
 
-/// The text of one cell, given out line by line for its place in a row.
+/// The text of one cell, from iBegin to iEnd of a row's texts, given out line by line for its place
+/// in the row.
 class CellLines
 {
 public:
-    explicit CellLines(const VORKTRReportingObj* iItem)
+    CellLines(const std::string& iTexts, std::size_t iBegin, std::size_t iEnd)
+        : _Next(iBegin), _End(iEnd)
     {
-        if (iItem)
-            iItem->ASCIIReport_in_Table(_Text);
-        const std::string_view text = _Text.ConvertToChar();
-        _End = text.size() - (!text.empty() && text.back() == '\n' ? 1 : 0);
-        _Height = 1 + static_cast<int>(std::count(text.begin(), text.begin() + _End, '\n'));
+        if (_Next != _End && iTexts[_End - 1] == '\n')
+            --_End; // a final line feed begins no line
+        _Height = 1 + static_cast<int>(std::count(&iTexts[_Next], &iTexts[_End], '\n'));
+        _Left = _Height;
     }
 
     int GetHeight() const { return _Height; }
@@ -74,65 +74,147 @@ public:
     void CenterIn(int iRowHeight) { _EmptyAbove = (iRowHeight - _Height) / 2; }
 
     /// The next line of the row, empty above and below the text.
-    std::string_view TakeLine()
+    std::string_view TakeLine(const std::string& iTexts)
     {
         if (_EmptyAbove > 0) {
             --_EmptyAbove;
             return {};
         }
-        const std::string_view rest = BytesOf(_Text).substr(_Done, _End - _Done);
-        const std::string_view line = rest.substr(0, rest.find('\n'));
-        _Done = std::min(_Done + line.size() + 1, _End);
+        if (_Left == 0)
+            return {};
+        --_Left;
+        const std::string_view rest(&iTexts[_Next], _End - _Next);
+        const std::string_view line = _Left == 0 ? rest : rest.substr(0, rest.find('\n'));
+        _Next += line.size() + 1;
         return line;
     }
 
 private:
-    VORUnicodeString _Text;
-    std::size_t _Done = 0;
-    std::size_t _End = 0; // a final line feed begins no line
-    int _Height = 1;
+    std::size_t _Next;
+    std::size_t _End;
+    int _Height;
+    int _Left; // lines that were not taken
     int _EmptyAbove = 0;
 };
 
-void AppendBlanks(std::string& ioText, int iCount)
+char* Put(char* iAt, std::string_view iText)
 {
-    ioText.append(static_cast<std::size_t>(std::max(iCount, 0)), ' ');
+    return iAt + iText.copy(iAt, iText.size());
+}
+
+char* PutBlanks(char* iAt, int iCount)
+{
+    return std::fill_n(iAt, std::max(iCount, 0), ' ');
 }
 
 // The odd blank goes to the left.
-void AppendCentered(std::string& ioText, std::string_view iLine, int iWidth)
+char* PutCentered(char* iAt, std::string_view iLine, int iWidth)
 {
     const int room = iWidth - CountChars(iLine);
-    AppendBlanks(ioText, (room + 1) / 2);
-    ioText += iLine;
-    AppendBlanks(ioText, room / 2);
+    return PutBlanks(Put(PutBlanks(iAt, (room + 1) / 2), iLine), room / 2);
 }
 
 } // namespace
+
+/// Writes rows as text, with the memory of one for all.
+class VORKTRReportingTable::RowWriter
+{
+public:
+    RowWriter(const VORKTRReportingTable& iTable, const VORUnicodeString& iIndent,
+              const VORUnicodeString& iPadLeft, const VORUnicodeString& iPadRight,
+              const int* iWidths)
+        : _Table(iTable), _Indent(BytesOf(iIndent)), _PadLeft(BytesOf(iPadLeft)),
+          _PadRight(BytesOf(iPadRight)), _Widths(iWidths), _LongestLine(_Indent.size() + 2)
+    {
+        for (int column = 0; column < _Table._ColumnNb; ++column)
+            _LongestLine += _PadLeft.size() + _PadRight.size() + 1 +
+                            static_cast<std::size_t>(std::max(_Widths[column], 0));
+    }
+
+    void Write(VORUnicodeString& oText, int iRow)
+    {
+        ReadTexts(iRow);
+        int height = 1;
+        for (const CellLines& cell : _Cells)
+            height = std::max(height, cell.GetHeight());
+        for (CellLines& cell : _Cells)
+            cell.CenterIn(height);
+        _Lines.resize(static_cast<std::size_t>(height) * _LongestLine + _Texts.size());
+        char* end = _Lines.data();
+        for (int line = 0; line < height; ++line)
+            end = PutLine(end);
+        oText.AppendBytes({_Lines.data(), static_cast<std::size_t>(end - _Lines.data())});
+    }
+
+private:
+    // Items see a text of their own.
+    void ReadTexts(int iRow)
+    {
+        _Texts.clear();
+        _Cells.clear();
+        for (int column = 0; column < _Table._ColumnNb; ++column) {
+            const std::size_t begin = _Texts.size();
+            const VORKTRValue& cell = _Table.CellAt(iRow, column);
+            if (cell.IsItem()) {
+                VORUnicodeString text;
+                cell.GetItem().ASCIIReport_in_Table(text);
+                _Texts += BytesOf(text);
+            } else if (!cell.IsEmpty()) {
+                cell.AppendText(_Texts);
+            }
+            _Cells.emplace_back(_Texts, begin, _Texts.size());
+        }
+    }
+
+    char* PutLine(char* iAt)
+    {
+        iAt = Put(iAt, _Indent);
+        *iAt++ = _Table.EdgeChar();
+        for (int column = 0; column < _Table._ColumnNb; ++column) {
+            CellLines& cell = _Cells[static_cast<std::size_t>(column)];
+            iAt = Put(iAt, _PadLeft);
+            iAt = PutCentered(iAt, cell.TakeLine(_Texts), _Widths[column]);
+            iAt = Put(iAt, _PadRight);
+            *iAt++ = _Table.SeparatorBehind(column);
+        }
+        *iAt++ = '\n';
+        return iAt;
+    }
+
+    const VORKTRReportingTable& _Table;
+    std::string_view _Indent;
+    std::string_view _PadLeft;
+    std::string_view _PadRight;
+    const int* _Widths;
+    std::size_t _LongestLine; // but for the texts
+    std::string _Texts;       // of a row's cells
+    std::vector<CellLines> _Cells;
+    std::string _Lines;
+};
 
 VORKTRReportingTable::VORKTRReportingTable(unsigned long style) : _Style(style) {}
 
 VORKTRReportingTable::~VORKTRReportingTable() = default;
 
-template <typename ItemClass, typename... Arguments>
+template <typename... Arguments>
 int VORKTRReportingTable::SetNew(int iRow, int iColumn, const Arguments&... iArguments)
 {
     if (!IsPosition(iRow, iColumn))
         return VOR_E_FAIL;
     Reallocate(iRow, iColumn);
-    CellAt(iRow, iColumn).reset();
-    CellAt(iRow, iColumn) = MakeItem<ItemClass>(iArguments...);
+    CellAt(iRow, iColumn) = VORKTRValue();
+    CellAt(iRow, iColumn) = _Values.Make(iArguments...);
     return VOR_S_OK;
 }
 
 int VORKTRReportingTable::SetInt(int row, int col, int value, const char* format)
 {
-    return SetNew<VORKTRReportingInt>(row, col, value, format);
+    return SetNew(row, col, value, format);
 }
 
 int VORKTRReportingTable::SetFloat(int row, int col, float value, const char* format)
 {
-    return SetNew<VORKTRReportingFloat>(row, col, value, format);
+    return SetNew(row, col, value, format);
 }
 
 int VORKTRReportingTable::SetFloat(int row, int col, double value, const char* format)
@@ -142,14 +224,14 @@ int VORKTRReportingTable::SetFloat(int row, int col, double value, const char* f
 
 int VORKTRReportingTable::SetText(int row, int col, const VORUnicodeString& text)
 {
-    return SetNew<VORKTRReportingText>(row, col, text);
+    return SetNew(row, col, text);
 }
 
 int VORKTRReportingTable::SetObj(int row, int col, VORKTRReportingObj* item)
 {
     if (!IsPosition(row, col) || !item)
         return VOR_E_FAIL;
-    Cell cell(item);
+    VORKTRValue cell{std::unique_ptr<VORKTRReportingObj>(item)};
     Reallocate(row, col);
     CellAt(row, col) = std::move(cell);
     return VOR_S_OK;
@@ -157,21 +239,24 @@ int VORKTRReportingTable::SetObj(int row, int col, VORKTRReportingObj* item)
 
 void VORKTRReportingTable::Reallocate(int row, int col)
 {
+    if (row < _RowNb && col < _ColumnNb)
+        return;
     const int rows = std::max(_RowNb, row + 1);
     const int columns = std::max(_ColumnNb, col + 1);
     if (static_cast<std::size_t>(columns) > _Stride)
-        Widen(static_cast<std::size_t>(columns));
-    if (_Cells.size() < Offset(rows, 0))
+        Rearrange(rows, columns);
+    else if (_Cells.size() < Offset(rows, 0))
         _Cells.resize(Offset(rows, 0));
     _RowNb = rows; // only now that there is memory for them
     _ColumnNb = columns;
 }
 
 // Half as much again at least, so that widening column by column moves each cell a few times only.
-void VORKTRReportingTable::Widen(std::size_t iColumns)
+void VORKTRReportingTable::Rearrange(int iRows, int iColumns)
 {
-    const std::size_t stride = _Stride == 0 ? iColumns : std::max(iColumns, _Stride * 3 / 2);
-    std::vector<Cell> cells(stride * static_cast<std::size_t>(_RowNb));
+    const auto columns = static_cast<std::size_t>(iColumns);
+    const std::size_t stride = _Stride == 0 ? columns : std::max(columns, _Stride * 3 / 2);
+    std::vector<VORKTRValue> cells(stride * static_cast<std::size_t>(iRows));
     for (int row = 0; row < _RowNb; ++row) {
         for (int column = 0; column < _ColumnNb; ++column)
             cells[static_cast<std::size_t>(row) * stride + static_cast<std::size_t>(column)] =
@@ -191,23 +276,30 @@ void VORKTRReportingTable::Report(unsigned int iFile, const char* iPath, unsigne
 {
     if (_RowNb == 0 || _ColumnNb == 0)
         return;
-    const bool isCentered = !(_Style & VORKTRTableNotCentered);
-    WriteFragment(iFile, isCentered ? "<BR>\n<CENTER>\n" : "<P>\n\n");
-    WriteFragment(iFile, _Style & VORKTRTableRuled ? "<TABLE BORDER=2 CELLPADDING=5>\n"
-                                                   : "<TABLE BORDER=0 CELLPADDING=5>\n");
+    const bool isIndented = (_Style & VORKTRTableNotCentered) != 0;
+    Fragment html(iFile);
+    html.Append(isIndented ? "<P>\n\n" : "<BR>\n<CENTER>\n");
+    html.Append(_Style & VORKTRTableRuled ? "<TABLE BORDER=2 CELLPADDING=5>\n"
+                                          : "<TABLE BORDER=0 CELLPADDING=5>\n");
     for (int row = 0; row < _RowNb; ++row) {
-        WriteFragment(iFile, OpenRow);
+        html.Append(OpenRow);
         for (int column = 0; column < _ColumnNb; ++column) {
-            if (const Cell& cell = CellAt(row, column))
-                cell->Report_in_Table(iFile, iPath, iFrames, iNavigationFile,
-                                      CellStyle(row, column));
-            else
-                WriteFragment(iFile, EmptyCell);
+            const VORKTRValue& cell = CellAt(row, column);
+            if (cell.IsEmpty()) {
+                html.Append(EmptyCell);
+            } else if (cell.IsItem()) {
+                html.Send();
+                cell.GetItem().Report_in_Table(iFile, iPath, iFrames, iNavigationFile,
+                                               CellStyle(row, column));
+            } else {
+                cell.AppendInTable(html, CellStyle(row, column));
+            }
         }
-        WriteFragment(iFile, CloseRow);
+        html.Append(CloseRow);
+        html.SendIfLong();
     }
-    WriteFragment(iFile, CloseTable);
-    WriteFragment(iFile, isCentered ? "</CENTER>\n" : "</P>\n");
+    html.Append(CloseTable, isIndented ? "</P>\n" : "</CENTER>\n");
+    html.Send();
 }
 
 char VORKTRReportingTable::CellStyle(int iRow, int iColumn) const
@@ -222,22 +314,30 @@ char VORKTRReportingTable::CellStyle(int iRow, int iColumn) const
     return static_cast<char>(style);
 }
 
-int* VORKTRReportingTable::GetColsWidth() const
+std::vector<int> VORKTRReportingTable::MeasureColumns() const
 {
-    int* const widths = new int[static_cast<std::size_t>(_ColumnNb)]();
+    std::vector<int> widths(static_cast<std::size_t>(_ColumnNb));
     for (int row = 0; row < _RowNb; ++row) {
         for (int column = 0; column < _ColumnNb; ++column) {
-            if (const Cell& cell = CellAt(row, column))
-                widths[column] = std::max(widths[column], cell->GetWidthInChar());
+            int& width = widths[static_cast<std::size_t>(column)];
+            width = std::max(width, CellAt(row, column).GetWidthInChar());
         }
     }
     return widths;
 }
 
+int* VORKTRReportingTable::GetColsWidth() const
+{
+    const std::vector<int> widths = MeasureColumns();
+    int* const result = new int[widths.size()];
+    std::copy(widths.begin(), widths.end(), result);
+    return result;
+}
+
 int VORKTRReportingTable::GetWidthInChar() const
 {
-    const std::unique_ptr<int[]> widths(GetColsWidth());
-    return std::accumulate(widths.get(), widths.get() + _ColumnNb, _ColumnNb + 1);
+    const std::vector<int> widths = MeasureColumns();
+    return std::accumulate(widths.begin(), widths.end(), _ColumnNb + 1);
 }
 
 void VORKTRReportingTable::ASCIIReport(VORUnicodeString& ioText) const
@@ -254,7 +354,7 @@ void VORKTRReportingTable::ASCIIReport_generic(VORUnicodeString& out, unsigned c
 {
     if (_RowNb == 0 || _ColumnNb == 0)
         return;
-    const std::unique_ptr<const int[]> widths(GetColsWidth());
+    const std::vector<int> widths = MeasureColumns();
     const int width = GetWidthInChar();
     Placement place = inTable ? Placement{width, "", "", ""} : PlaceOnPage(width, _ColumnNb);
     if (_Style & VORKTRTableNotCentered)
@@ -262,8 +362,9 @@ void VORKTRReportingTable::ASCIIReport_generic(VORUnicodeString& out, unsigned c
     const VORUnicodeString rule = place.indent + Repeat('*', place.width) + "\n";
     if (_Style & Framed)
         out.Append(rule);
+    RowWriter rows(*this, place.indent, place.padLeft, place.padRight, widths.data());
     for (int row = 0; row < _RowNb; ++row) {
-        PrintRow(out, row, place.indent, place.padLeft, place.padRight, widths.get());
+        rows.Write(out, row);
         if (HasRuleBelow(row))
             out.Append(rule);
     }
@@ -280,28 +381,8 @@ void VORKTRReportingTable::PrintRow(VORUnicodeString& out, int row, const VORUni
                                     const VORUnicodeString& padLeft,
                                     const VORUnicodeString& padRight, const int* widths) const
 {
-    std::vector<CellLines> cells;
-    cells.reserve(static_cast<std::size_t>(_ColumnNb));
-    int height = 1;
-    for (int column = 0; column < _ColumnNb; ++column) {
-        cells.emplace_back(CellAt(row, column).get());
-        height = std::max(height, cells.back().GetHeight());
-    }
-    for (CellLines& cell : cells)
-        cell.CenterIn(height);
-
-    std::string text;
-    for (int line = 0; line < height; ++line) {
-        text.append(BytesOf(indent)) += EdgeChar();
-        for (int column = 0; column < _ColumnNb; ++column) {
-            text += BytesOf(padLeft);
-            AppendCentered(text, cells[static_cast<std::size_t>(column)].TakeLine(),
-                           widths[column]);
-            text.append(BytesOf(padRight)) += SeparatorBehind(column);
-        }
-        text += '\n';
-    }
-    out.Append(UnicodeOf(text));
+    if (row >= 0 && row < _RowNb && widths)
+        RowWriter(*this, indent, padLeft, padRight, widths).Write(out, row);
 }
 
 char VORKTRReportingTable::SeparatorChar() const

@@ -1,8 +1,6 @@
 #include "VORKTRReportingText.h"
 
 #include <algorithm>
-#include <memory_resource>
-#include <string>
 #include <string_view>
 
 #include "VORKTRAssert.h"
@@ -18,28 +16,18 @@ namespace
 constexpr const char* Source = VORKTR_SOURCE_PATH "VORKTRReportingText";
 constexpr const char* AllTextAssertion = "AssertionFailed:_AllText";
 
-void WriteEscaped(unsigned int iFile, std::string_view iOpen, const VORUnicodeString& iText,
-                  std::string_view iClose)
+void AppendEscaped(Fragment& ioHtml, std::string_view iText)
 {
-    // Most texts fit the stack; twice the text leaves a long one room to grow without a copy.
-    char stack[1024];
-    std::pmr::monotonic_buffer_resource memory(stack, sizeof stack);
-    std::pmr::string html(&memory);
-    const auto size = static_cast<std::size_t>(iText.GetLengthInByte());
-    html.reserve(iOpen.size() + 2 * size + iClose.size());
-    html = iOpen;
-    EscapeHtml(BytesOf(iText), [&html](std::string_view piece) { html += piece; });
-    html += iClose;
-    SendFragment(iFile, html);
+    EscapeHtml(iText, [&ioHtml](std::string_view piece) { ioHtml.Append(piece); });
 }
 
 } // namespace
 
 VORKTRReportingText::VORKTRReportingText() : _AllText(std::make_unique<VORUnicodeString>()) {}
 
-VORKTRReportingText::VORKTRReportingText(const VORUnicodeString& text) : VORKTRReportingText()
+VORKTRReportingText::VORKTRReportingText(const VORUnicodeString& text)
+    : _AllText(std::make_unique<VORUnicodeString>(text))
 {
-    WriteUnicode(text);
 }
 
 VORKTRReportingText::~VORKTRReportingText() = default;
@@ -72,33 +60,58 @@ int VORKTRReportingText::GetType() const
 
 void VORKTRReportingText::Report(unsigned int iFile, const char*, unsigned char, unsigned int) const
 {
-    WriteEscaped(iFile, "<p>", *_AllText, "</p>\n");
+    ShortFragment html(iFile);
+    html.Append("<p>");
+    AppendEscaped(html, BytesOf(*_AllText));
+    html.Append("</p>\n");
+    html.Send();
 }
 
 void VORKTRReportingText::Report_in_List(unsigned int iFile, const char*, unsigned char,
                                          unsigned int, char iWide) const
 {
-    WriteEscaped(iFile, iWide ? "<TD ALIGN=CENTER COLSPAN=3>&nbsp;" : OpenRightTD, *_AllText,
-                 CloseTD);
+    ShortFragment html(iFile);
+    AppendTextInList(html, BytesOf(*_AllText), iWide);
+    html.Send();
 }
 
 void VORKTRReportingText::Report_in_Table(unsigned int iFile, const char*, unsigned char,
                                           unsigned int, char iHeader) const
 {
+    ShortFragment html(iFile);
+    AppendTextInTable(html, BytesOf(*_AllText), iHeader);
+    html.Send();
+}
+
+void AppendTextInTable(Fragment& ioHtml, std::string_view iText, char iHeader)
+{
     const CellTags cell = CenteredCell(iHeader);
-    WriteEscaped(iFile, cell.open, *_AllText, cell.close);
+    ioHtml.Append(cell.open);
+    AppendEscaped(ioHtml, iText);
+    ioHtml.Append(cell.close);
+}
+
+void AppendTextInList(Fragment& ioHtml, std::string_view iText, char iWide)
+{
+    ioHtml.Append(iWide ? "<TD ALIGN=CENTER COLSPAN=3>&nbsp;" : OpenRightTD);
+    AppendEscaped(ioHtml, iText);
+    ioHtml.Append(CloseTD);
+}
+
+int WidthOfText(std::string_view iText)
+{
+    int width = 0;
+    for (auto end = iText.find('\n'); end != std::string_view::npos; end = iText.find('\n')) {
+        width = std::max(width, CountChars(iText.substr(0, end)));
+        iText.remove_prefix(end + 1);
+    }
+    return std::max(width, CountChars(iText));
 }
 
 int VORKTRReportingText::GetWidthInChar() const
 {
     AssertField(_AllText.get(), AllTextAssertion, Source, 211);
-    std::string_view rest = BytesOf(*_AllText);
-    int width = 0;
-    for (auto end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
-        width = std::max(width, CountChars(rest.substr(0, end)));
-        rest.remove_prefix(end + 1);
-    }
-    return std::max(width, CountChars(rest));
+    return WidthOfText(BytesOf(*_AllText));
 }
 
 void VORKTRReportingText::ASCIIReport(VORUnicodeString& ioText) const

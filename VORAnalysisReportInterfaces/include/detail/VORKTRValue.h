@@ -1,0 +1,123 @@
+#ifndef VORKTRValue_h
+#define VORKTRValue_h
+
+#include <forward_list>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "VORKTRReportingObj.h"
+#include "VORNumberFormat.h"
+
+// An inner part of the table and list, not for use by applications.
+
+class Fragment;
+
+/// What a table cell or the value of a list line holds: nothing, a number, a text or an item.
+/// Numbers and texts need no item, for nobody outside could ask for it; they look as the items do.
+class VORKTRValue
+{
+public:
+    VORKTRValue() = default;
+    /// @{ A number with its format, which its owner shares between values.
+    VORKTRValue(int iNumber, const VORIntFormat& iFormat);
+    VORKTRValue(float iNumber, const VORFloatFormat& iFormat);
+    /// @}
+    explicit VORKTRValue(const VORUnicodeString& iText);
+    explicit VORKTRValue(std::unique_ptr<VORKTRReportingObj> ioItem);
+
+    bool IsEmpty() const { return !_Content; }
+    bool IsItem() const { return _Content && GetKind() == Kind::Item; }
+    /// The item of a value that IsItem.
+    const VORKTRReportingObj& GetItem() const
+    {
+        return *static_cast<const VORKTRReportingObj*>(_Content.get());
+    }
+
+    /// @{ The operations of an item; those of the HTML are for values without one.
+    bool IsFloat() const;
+    int GetWidthInChar() const;
+    void AppendInTable(Fragment& ioHtml, char iHeader) const;
+    void AppendInList(Fragment& ioHtml, char iWide) const;
+    /// @}
+
+    /// Appends the text of a value that holds no item.
+    void AppendText(std::string& ioText) const;
+
+private:
+    enum class Kind : unsigned char { Int, Float, Text, Item };
+
+    /// What there is beside the pointer: to the number's format, the text's bytes or the item.
+    struct Release {
+        Release() : kind(Kind::Item), integer(0) {}
+        void operator()(const void* ioContent) const;
+
+        Kind kind;
+        union {
+            int integer;
+            float real;
+            unsigned int length;
+        };
+    };
+
+    Kind GetKind() const { return _Content.get_deleter().kind; }
+    int GetInt() const { return _Content.get_deleter().integer; }
+    float GetFloat() const { return _Content.get_deleter().real; }
+    std::string_view GetText() const
+    {
+        return {static_cast<const char*>(_Content.get()), _Content.get_deleter().length};
+    }
+    const VORIntFormat& GetIntFormat() const
+    {
+        return *static_cast<const VORIntFormat*>(_Content.get());
+    }
+    const VORFloatFormat& GetFloatFormat() const
+    {
+        return *static_cast<const VORFloatFormat*>(_Content.get());
+    }
+
+    std::unique_ptr<const void, Release> _Content;
+};
+
+/// The formats of the numbers of a table or list, each read once. It keeps the first few only: a
+/// program that makes up formats has items for the numbers.
+template <typename Format>
+class VORKTRFormats
+{
+public:
+    /// The format, which lives as long as this; null when there are too many.
+    const Format* Find(const char* iFormat)
+    {
+        for (const Format& format : _Formats) {
+            if (format.IsMadeOf(iFormat))
+                return &format;
+        }
+        if (_Count == Most)
+            return nullptr;
+        _Formats.emplace_front(iFormat);
+        ++_Count;
+        return &_Formats.front();
+    }
+
+private:
+    static constexpr int Most = 16;
+
+    std::forward_list<Format> _Formats;
+    int _Count = 0;
+};
+
+/// Makes the values of a table or list, and lives longer than they; a value is empty when there is
+/// no memory for it.
+class VORKTRValues
+{
+public:
+    VORKTRValue Make(int iNumber, const char* iFormat);
+    VORKTRValue Make(float iNumber, const char* iFormat);
+    VORKTRValue Make(const VORUnicodeString& iText);
+
+private:
+    VORKTRFormats<VORIntFormat> _IntFormats;
+    VORKTRFormats<VORFloatFormat> _FloatFormats;
+};
+
+#endif
