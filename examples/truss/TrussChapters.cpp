@@ -7,36 +7,43 @@
 #include <Eigen/Geometry>
 
 #include "TrussFigures.h"
+#include "VORKTRArrayTable.h"
+#include "VORKTRFigure.h"
+#include "VORKTRHeading.h"
+#include "VORKTRProse.h"
 #include "VORKTRReportingFile.h"
 #include "VORKTRReportingList.h"
-#include "VORKTRReportingTable.h"
-#include "VORKTRReportingText.h"
-#include "VORKTRReportingTitle.h"
+#include "VORKTRTableCaption.h"
 
 namespace truss
 {
 namespace
 {
 
-VORUnicodeString Unicode(const std::string& iText)
+constexpr int DrawingWidth = 800; // on the page, in CSS pixels
+
+/// Adds an item and returns it; the bag owns it.
+template <typename Item>
+Item& Add(VORKTRReportingBag& ioBag, Item* ioItem)
 {
-    return VORUnicodeString(iText.c_str());
+    ioBag.AddObject(ioItem);
+    return *ioItem;
 }
 
 void AddTitle(VORKTRReportingBag& ioBag, const std::string& iText, int iLevel)
 {
-    ioBag.AddObject(new VORKTRReportingTitle(Unicode(iText), iLevel));
+    Add(ioBag, new VORKTRHeading(iText, iLevel));
 }
 
 void AddText(VORKTRReportingBag& ioBag, const std::string& iText)
 {
-    ioBag.AddObject(new VORKTRReportingText(Unicode(iText)));
+    Add(ioBag, new VORKTRProse(iText));
 }
 
 void AddLine(VORKTRReportingList& ioList, const std::string& iLabel, double iValue,
              const std::string& iUnit, const char* iFormat = "%#.6g")
 {
-    ioList.addLine(Unicode(iLabel), iValue, Unicode(iUnit), iFormat);
+    ioList.addLine(iLabel, iValue, iUnit, iFormat);
 }
 
 void AddCount(VORKTRReportingList& ioList, const char* iLabel, std::size_t iCount)
@@ -44,8 +51,8 @@ void AddCount(VORKTRReportingList& ioList, const char* iLabel, std::size_t iCoun
     ioList.addLine(iLabel, static_cast<int>(iCount), "", "%d");
 }
 
-struct Column {
-    std::string quantity;
+struct Quantity {
+    std::string name;
     std::string unit = {};
 };
 
@@ -53,6 +60,18 @@ struct Column {
 struct Row {
     std::vector<std::string> names;
     std::vector<double> numbers;
+};
+
+/// A table that brings its rows with it.
+class RowTable : public VORKTRArrayTable
+{
+public:
+    RowTable(const std::vector<Quantity>& iColumns, const std::vector<Row>& iRows);
+
+private:
+    // By column, as the table does not copy them.
+    std::vector<std::vector<std::string>> _Names;
+    std::vector<std::vector<double>> _Numbers;
 };
 
 /// Fixed-point with six digits for the largest number, so that the decimal points of a column stand
@@ -73,7 +92,7 @@ double WithoutNoise(double iNumber, double iLargest)
 
 /// Largest magnitude in the number columns of one unit. They share a format, as the components of a
 /// vector do.
-double LargestOfUnit(const std::vector<Column>& iColumns, const std::vector<Row>& iRows,
+double LargestOfUnit(const std::vector<Quantity>& iColumns, const std::vector<Row>& iRows,
                      const std::string& iUnit)
 {
     double largest = 0;
@@ -86,36 +105,43 @@ double LargestOfUnit(const std::vector<Column>& iColumns, const std::vector<Row>
     return largest;
 }
 
-/// Adds a table with a header row and rules between the columns.
-void AddTable(VORKTRReportingBag& ioBag, const std::vector<Column>& iColumns,
-              const std::vector<Row>& iRows)
+// A header row, and rules between the columns.
+RowTable::RowTable(const std::vector<Quantity>& iColumns, const std::vector<Row>& iRows)
+    : VORKTRArrayTable(VORKTRTableHeaderRow | VORKTRTableRuled, static_cast<int>(iRows.size()))
 {
-    auto table = std::make_unique<VORKTRReportingTable>(0x01 | 0x08);
+    const std::size_t nameNb = iRows.empty() ? 1 : iRows.front().names.size();
+    _Names.resize(nameNb);
+    _Numbers.resize(iColumns.size() - nameNb);
     for (std::size_t i = 0; i < iColumns.size(); ++i) {
-        const int column = static_cast<int>(i);
-        const auto& [quantity, unit] = iColumns[i];
-        const double largest = LargestOfUnit(iColumns, iRows, unit);
-        const std::string format = NumberFormat(largest);
-        std::string header = quantity;
-        if (!unit.empty())
-            header.append("\n").append(unit);
-        table->SetText(0, column, Unicode(header));
-        int line = 0;
-        for (const auto& [names, numbers] : iRows) {
-            if (i < names.size())
-                table->SetText(++line, column, Unicode(names[i]));
-            else
-                table->SetFloat(++line, column, WithoutNoise(numbers[i - names.size()], largest),
-                                format.c_str());
+        const auto& [name, unit] = iColumns[i];
+        if (i < nameNb) {
+            for (const Row& row : iRows)
+                _Names[i].push_back(row.names[i]);
+            AddColumn(name, unit, _Names[i].data());
+            continue;
         }
+        std::vector<double>& numbers = _Numbers[i - nameNb];
+        const double largest = LargestOfUnit(iColumns, iRows, unit);
+        for (const Row& row : iRows)
+            numbers.push_back(WithoutNoise(row.numbers[i - nameNb], largest));
+        AddColumn(name, unit, numbers.data(), NumberFormat(largest).c_str());
     }
-    ioBag.AddObject(table.release());
 }
 
-/// Adds a table of the vectors of those nodes that iHas accepts.
-void AddVectorTable(VORKTRReportingBag& ioBag, const Model& iModel, const std::string& iSymbol,
-                    const std::string& iUnit, const std::vector<Vector>& iVectors,
-                    const std::function<bool(std::size_t)>& iHas)
+/// Adds a table and returns its caption.
+VORKTRTableCaption& AddTable(VORKTRReportingBag& ioBag, const std::string& iCaption,
+                             const std::vector<Quantity>& iColumns, const std::vector<Row>& iRows)
+{
+    auto& caption = Add(ioBag, new VORKTRTableCaption(iCaption));
+    Add(ioBag, new RowTable(iColumns, iRows));
+    return caption;
+}
+
+/// Adds a table of the vectors of those nodes that iHas accepts, and returns its caption.
+VORKTRTableCaption& AddVectorTable(VORKTRReportingBag& ioBag, const Model& iModel,
+                                   const std::string& iCaption, const std::string& iSymbol,
+                                   const std::string& iUnit, const std::vector<Vector>& iVectors,
+                                   const std::function<bool(std::size_t)>& iHas)
 {
     std::vector<Row> rows;
     for (std::size_t i = 0; i < iVectors.size(); ++i) {
@@ -124,13 +150,13 @@ void AddVectorTable(VORKTRReportingBag& ioBag, const Model& iModel, const std::s
             rows.push_back(
                 {{iModel.nodes[i].name}, {vector.x(), vector.y(), vector.z(), vector.norm()}});
     }
-    AddTable(ioBag,
-             {{"node"},
-              {iSymbol + "x", iUnit},
-              {iSymbol + "y", iUnit},
-              {iSymbol + "z", iUnit},
-              {"|" + iSymbol + "|", iUnit}},
-             rows);
+    return AddTable(ioBag, iCaption,
+                    {{"node"},
+                     {iSymbol + "x", iUnit},
+                     {iSymbol + "y", iUnit},
+                     {iSymbol + "z", iUnit},
+                     {"|" + iSymbol + "|", iUnit}},
+                    rows);
 }
 
 void AddModelList(VORKTRReportingBag& ioBag, const Model& iModel)
@@ -176,7 +202,8 @@ void AddNodes(VORKTRReportingBag& ioBag, const Model& iModel)
         rows.push_back({{node.name, Supports(node)},
                         {node.position.x(), node.position.y(), node.position.z()}});
     const std::string& unit = iModel.lengthUnit;
-    AddTable(ioBag, {{"node"}, {"fixed"}, {"x", unit}, {"y", unit}, {"z", unit}}, rows);
+    AddTable(ioBag, "Coordinates and supports of the nodes",
+             {{"node"}, {"fixed"}, {"x", unit}, {"y", unit}, {"z", unit}}, rows);
 }
 
 void AddMaterials(VORKTRReportingBag& ioBag, const Model& iModel)
@@ -184,7 +211,7 @@ void AddMaterials(VORKTRReportingBag& ioBag, const Model& iModel)
     std::vector<Row> rows;
     for (const Material& material : iModel.materials)
         rows.push_back({{material.name}, {material.modulus, material.density}});
-    AddTable(ioBag,
+    AddTable(ioBag, "Materials",
              {{"material"},
               {"modulus", iModel.StressUnit()},
               {"density", iModel.massUnit + "/" + iModel.lengthUnit + "^3"}},
@@ -198,7 +225,7 @@ void AddBars(VORKTRReportingBag& ioBag, const Model& iModel)
         rows.push_back({{bar.name, iModel.nodes[bar.start].name, iModel.nodes[bar.end].name,
                          iModel.materials[bar.material].name},
                         {bar.area, iModel.Length(bar)}});
-    AddTable(ioBag,
+    AddTable(ioBag, "Connections and cross-sections of the bars",
              {{"bar"},
               {"from"},
               {"to"},
@@ -208,30 +235,32 @@ void AddBars(VORKTRReportingBag& ioBag, const Model& iModel)
              rows);
 }
 
-void AddBarResults(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution)
+VORKTRTableCaption& AddBarResults(VORKTRReportingBag& ioBag, const Model& iModel,
+                                  const Solution& iSolution)
 {
     std::vector<Row> rows;
     for (std::size_t i = 0; i < iModel.bars.size(); ++i) {
         const BarResult& result = iSolution.bars[i];
         rows.push_back({{iModel.bars[i].name}, {result.elongation, result.force, result.stress}});
     }
-    AddTable(ioBag,
-             {{"bar"},
-              {"elongation", iModel.lengthUnit},
-              {"force", iModel.forceUnit},
-              {"stress", iModel.StressUnit()}},
-             rows);
+    return AddTable(ioBag, "Elongations, forces and stresses of the bars; tension is positive",
+                    {{"bar"},
+                     {"elongation", iModel.lengthUnit},
+                     {"force", iModel.forceUnit},
+                     {"stress", iModel.StressUnit()}},
+                    rows);
 }
 
-void AddDrawing(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution,
-                const std::string& iPath, int iFigure)
+VORKTRFigure& AddDrawing(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution,
+                         const std::string& iPath)
 {
-    const double scale = DisplacementScale(iModel, iSolution);
-    AddText(ioBag, "Figure " + std::to_string(iFigure) +
-                       " shows the loads and the deformed structure in isometric projection.\n"
-                       "The displacements are enlarged " +
-                       ShortNumber(scale) + " times; the colours give the stresses.\n");
-    ioBag.AddObject(new VORKTRReportingFile(VORKTRReportingImage, iPath.c_str()));
+    const std::string scale = ShortNumber(DisplacementScale(iModel, iSolution));
+    const std::string caption = "Loads and deformed structure in isometric projection. The "
+                                "displacements are enlarged " +
+                                scale + " times; the colours give the stresses.";
+    return Add(ioBag, new VORKTRFigure(iPath.c_str(), caption,
+                                       "Drawing of the structure, its loads and its deformed shape",
+                                       DrawingWidth));
 }
 
 /// Half of what the loads would do at full strength all the way.
@@ -251,7 +280,7 @@ double StrainEnergy(const Solution& iSolution)
     return energy;
 }
 
-void AddCheck(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution)
+void AddCheckList(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iSolution)
 {
     Vector force = Vector::Zero();
     Vector moment = Vector::Zero();
@@ -271,8 +300,6 @@ void AddCheck(VORKTRReportingBag& ioBag, const Model& iModel, const Solution& iS
     AddLine(*list, "Strain energy of the bars", StrainEnergy(iSolution), work);
     AddLine(*list, "Smallest pivot by the direction's own stiffness", iSolution.smallestPivot, "",
             "%.2e");
-    AddText(ioBag, "Forces and moments in the first three lines are 0 but for rounding errors.\n"
-                   "Work and strain energy are equal. A pivot near 0 means a near mechanism.\n");
     ioBag.AddObject(list.release());
 }
 
@@ -291,14 +318,15 @@ Chapter MakeModelChapter(const Model& iModel, const std::string& iScenePath)
     AddTitle(*chapter, "Connections and areas", 3);
     AddBars(*chapter, iModel);
     AddTitle(*chapter, "Scene", 2);
-    AddText(*chapter, "Figure 1 is the structure as a scene for a VRML viewer.\n"
-                      "The radii of the bars are in proportion to each other, but not to scale.\n");
+    AddText(*chapter,
+            "Figure 1 is the structure as a scene for a VRML viewer. The radii of the bars "
+            "are in proportion to each other, but not to scale.");
     chapter->AddObject(new VORKTRReportingFile(VORKTRReportingVRML, iScenePath.c_str()));
     return chapter;
 }
 
 Chapter MakeCaseChapter(const Model& iModel, const LoadCase& iCase, const Solution& iSolution,
-                        const std::string& iDrawingPath, int iFigure)
+                        const std::string& iDrawingPath)
 {
     const auto isLoaded = [&](std::size_t iNode) { return !iSolution.loads[iNode].isZero(0); };
     const auto isSupported = [&](std::size_t iNode) { return iModel.nodes[iNode].fixed.any(); };
@@ -306,19 +334,33 @@ Chapter MakeCaseChapter(const Model& iModel, const LoadCase& iCase, const Soluti
     auto chapter = std::make_unique<VORKTRReportingBag>();
     AddTitle(*chapter, "Load case " + iCase.name, 1);
     AddText(*chapter, Summarise(iModel, iCase, iSolution));
-    AddDrawing(*chapter, iModel, iSolution, iDrawingPath, iFigure);
+    const auto& drawing = AddDrawing(*chapter, iModel, iSolution, iDrawingPath);
     AddTitle(*chapter, "Displacements", 2);
-    AddVectorTable(*chapter, iModel, "u", iModel.lengthUnit, iSolution.displacements, isAny);
+    const auto& moves = AddVectorTable(*chapter, iModel, "Displacements of the nodes", "u",
+                                       iModel.lengthUnit, iSolution.displacements, isAny);
     AddTitle(*chapter, "Bar forces and stresses", 2);
-    AddText(*chapter, "Tension is positive.\n");
-    AddBarResults(*chapter, iModel, iSolution);
+    const auto& bars = AddBarResults(*chapter, iModel, iSolution);
     AddTitle(*chapter, "Loads and reactions", 2);
     AddTitle(*chapter, "Loads", 3);
-    AddVectorTable(*chapter, iModel, "F", iModel.forceUnit, iSolution.loads, isLoaded);
+    const auto& loads = AddVectorTable(*chapter, iModel, "Loads on the nodes", "F",
+                                       iModel.forceUnit, iSolution.loads, isLoaded);
     AddTitle(*chapter, "Reactions", 3);
-    AddVectorTable(*chapter, iModel, "R", iModel.forceUnit, iSolution.reactions, isSupported);
+    const auto& reactions = AddVectorTable(*chapter, iModel, "Reactions of the supports", "R",
+                                           iModel.forceUnit, iSolution.reactions, isSupported);
     AddTitle(*chapter, "Check of the solution", 2);
-    AddCheck(*chapter, iModel, iSolution);
+    Add(*chapter, new VORKTRProse("The loads of "))
+        .AddLink(loads)
+        .Add(" and the reactions of ")
+        .AddLink(reactions)
+        .Add(" are in equilibrium: the first three lines are 0 but for rounding errors. The loads "
+             "do as much work on the displacements of ")
+        .AddLink(moves)
+        .Add(", drawn in ")
+        .AddLink(drawing)
+        .Add(", as the bar forces of ")
+        .AddLink(bars)
+        .Add(" store in the bars. A pivot near 0 means a near mechanism.");
+    AddCheckList(*chapter, iModel, iSolution);
     return chapter;
 }
 
@@ -336,9 +378,9 @@ std::string Summarise(const Model& iModel, const LoadCase& iCase, const Solution
     const auto [low, high] =
         std::minmax_element(iSolution.bars.begin(), iSolution.bars.end(), isSmaller);
     return "Load case " + iCase.name + " moves node " + iModel.nodes[node].name + " most, by " +
-           ShortNumber(largest->norm()) + " " + iModel.lengthUnit + ".\nIts stresses range from " +
+           ShortNumber(largest->norm()) + " " + iModel.lengthUnit + ". Its stresses range from " +
            ShortNumber(low->stress) + " to " + ShortNumber(high->stress) + " " +
-           iModel.StressUnit() + ".\n";
+           iModel.StressUnit() + ".";
 }
 
 } // namespace truss

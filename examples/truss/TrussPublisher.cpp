@@ -1,132 +1,115 @@
 #include "TrussPublisher.h"
 
-#include <fstream>
 #include <stdexcept>
-#include <system_error>
-
-#include <stdlib.h>
 
 #include "TrussChapters.h"
 #include "TrussFigures.h"
+#include "VORFile.h"
+#include "VORKTRCharset.h"
+#include "VORKTRLook.h"
+#include "VORKTRProse.h"
 #include "VORKTRReportTools.h"
-
-namespace fs = std::filesystem;
+#include "VORKTRTableCaption.h"
+#include "VORPath.h"
 
 namespace truss
 {
 namespace
 {
 
-void WriteFile(const fs::path& iPath, const std::string& iText)
+// Figures in the directory of the report, until it takes them under a name of its own.
+constexpr const char* Scene = "truss-scene.wrl";
+constexpr const char* Drawing = "truss-drawing.svg";
+
+void Check(const std::string& iPath, VORStatus iStatus)
 {
-    std::ofstream file(iPath, std::ios::binary);
-    file << iText;
-    file.close();
-    if (!file)
-        throw std::runtime_error(iPath.string() + ": cannot be written");
+    if (iStatus < 0)
+        throw std::runtime_error(iPath + ": cannot be written: " + VORStatusText(iStatus));
+}
+
+void WriteFile(const std::string& iPath, const std::string& iText)
+{
+    unsigned int file = 0;
+    Check(iPath, VORFOpen(iPath, "w", file));
+    VORFWrite(file, iText.data(), iText.size(), nullptr); // the close tells a failure too
+    Check(iPath, VORFClose(file));
 }
 
 /// A site's title is HTML.
 VORUnicodeString Escape(const std::string& iText)
 {
-    VORUnicodeString text(iText.c_str());
-    VORKTRReportingText::ReplaceAllOccurrences(text, "&", "&amp;");
-    VORKTRReportingText::ReplaceAllOccurrences(text, "<", "&lt;");
-    VORKTRReportingText::ReplaceAllOccurrences(text, ">", "&gt;");
-    return text;
+    VORUnicodeString html;
+    VORKTRReportTools::AppendEscaped(html, iText);
+    return html;
 }
 
 } // namespace
 
-TemporaryDirectory::TemporaryDirectory()
+Publisher::Publisher(const Model& iModel, const std::string& iDirectory)
+    : _Model(iModel), _Directory(iDirectory), _Summary(new VORKTRReportingBag)
 {
-    std::string path = (fs::temp_directory_path() / "truss-XXXXXX").string();
-    if (!::mkdtemp(path.data()))
-        throw std::runtime_error(path + ": cannot be created");
-    _Path = path;
-}
-
-TemporaryDirectory::~TemporaryDirectory()
-{
-    std::error_code ignored;
-    fs::remove_all(_Path, ignored);
-}
-
-Publisher::Publisher(const Model& iModel, const fs::path& iDirectory)
-    : _Model(iModel), _Directory(iDirectory),
-      _Summary(new VORKTRReportingText("Linear statics of a space truss: small displacements.\n"
-                                       "The bars are pinned at the nodes and carry axial force "
-                                       "only.\n"))
-{
+    _Report.AddObject(new VORKTRCharset);
+    _Report.AddObject(new VORKTRLook);
+    _Report.AddObject(new VORKTRProse("Linear statics of a space truss: small displacements. The "
+                                      "bars are pinned at the nodes and carry axial force only."));
     _Report.AddObject(_Summary);
-    const std::string scene = WriteTemporary("scene.wrl", WriteScene(iModel));
+    VORCreateDirectory(_Directory); // what is wrong with it shows in the first file
+    const std::string scene = WriteFigure(Scene, WriteScene(iModel));
     _Report.AddObject(MakeModelChapter(iModel, scene).release());
+}
+
+Publisher::~Publisher()
+{
+    for (const char* const figure : {Scene, Drawing})
+        VORDeleteFile(In(figure));
 }
 
 void Publisher::Publish(const LoadCase& iCase, const Solution& iSolution)
 {
     ++_CaseNb;
-    _Summary->WriteUnicode(Summarise(_Model, iCase, iSolution).c_str());
-    const std::string drawing = WriteTemporary("drawing.svg", DrawSvg(_Model, iSolution));
-    const int figure = _CaseNb + 1; // behind the scene
-    _Report.AddObject(MakeCaseChapter(_Model, iCase, iSolution, drawing, figure).release());
+    _Summary->AddObject(new VORKTRProse(Summarise(_Model, iCase, iSolution)));
+    const std::string drawing = WriteFigure(Drawing, DrawSvg(_Model, iSolution));
+    _Report.AddObject(MakeCaseChapter(_Model, iCase, iSolution, drawing).release());
     WriteSite();
 }
 
-std::string Publisher::WriteTemporary(const char* iName, const std::string& iText) const
+std::string Publisher::In(const char* iName) const
 {
-    const fs::path path = _Temporary.Path() / iName;
+    VORUnicodeString path;
+    VORMakePath(_Directory, iName, path);
+    return path.ToString();
+}
+
+std::string Publisher::WriteFigure(const char* iName, const std::string& iText) const
+{
+    const std::string path = In(iName);
     WriteFile(path, iText);
-    return path.string();
+    return path;
 }
 
 void Publisher::WriteSite()
 {
-    VORKTRReportTools::InitFigureNumber(); // the text refers to the figures of this site by number
-    const int status = _CaseNb > 1 ? _Report.Update()
-                                   : _Report.MakeReport(_Directory.c_str(), Escape(_Model.title));
-    if (status < 0)
-        throw std::runtime_error(_Directory.string() + ": the report cannot be written");
-    CheckSite();
-}
-
-/// The report does not tell of a full disk, but a page that ends short gives it away, and so does a
-/// figure that was not taken.
-void Publisher::CheckSite()
-{
-    for (const char* name : {"main.css", "navigation.css"})
-        CheckFile(name, "}\n");
-    for (const char* name : {"index.html", "navigation.html"})
-        CheckFile(name, "</HTML>\n");
-    for (int page = 1; page <= _Report.GetPagesNumber(); ++page)
-        CheckFile("page" + std::to_string(page) + ".html", "</HTML>\n");
-    if (!fs::is_empty(_Temporary.Path()))
-        throw std::runtime_error(_Directory.string() + ": a figure cannot be written");
-}
-
-void Publisher::CheckFile(const std::string& iName, const std::string& iEnd) const
-{
-    std::ifstream file(_Directory / iName, std::ios::binary);
-    file.seekg(-static_cast<std::streamoff>(iEnd.size()), std::ios::end);
-    std::string end(iEnd.size(), '\0');
-    file.read(end.data(), static_cast<std::streamsize>(end.size()));
-    if (!file || end != iEnd)
-        throw std::runtime_error((_Directory / iName).string() + ": cannot be written completely");
+    VORKTRReportTools::InitFigureNumber(); // so that the scene is figure 1
+    VORKTRTableCaption::InitTableNumber();
+    const int status =
+        _CaseNb > 1 ? _Report.Update() : _Report.MakeReport(_Directory, Escape(_Model.title));
+    const int reason = _Report.TakeWriteStatus();
+    Check(_Directory, reason < 0 ? reason : status);
 }
 
 void Publisher::WriteText() const
 {
     VORUnicodeString text;
-    _Report.MakeTextReport(_Model.title.c_str(), text);
-    WriteFile(_Directory / "report.txt", text.ConvertToChar());
+    _Report.MakeTextReport(_Model.title, text);
+    WriteFile(In("report.txt"), text.ToString());
 }
 
-fs::path Publisher::WriteReloadPage()
+std::string Publisher::WriteReloadPage()
 {
-    if (_Report.MakeReloadPage() < 0)
-        throw std::runtime_error(_Directory.string() + ": the reload page cannot be written");
-    CheckFile("reload.html", "</HTML>\n");
-    return _Directory / "reload.html";
+    const std::string page = In("reload.html");
+    Check(page, _Report.MakeReloadPage());
+    Check(page, _Report.TakeWriteStatus());
+    return page;
 }
 
 } // namespace truss

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -10,8 +11,6 @@
 #include "TrussReader.h"
 #include "TrussSolver.h"
 #include "VORKTRReportTools.h"
-
-namespace fs = std::filesystem;
 
 namespace
 {
@@ -27,7 +26,7 @@ const char* const Usage = "usage: truss [--open] MODEL DIRECTORY [CASE...]\n"
 struct Arguments {
     bool isOpening = false;
     std::string model;
-    fs::path directory;
+    std::string directory;
     std::vector<std::string> cases;
 };
 
@@ -45,16 +44,18 @@ bool Parse(std::vector<std::string> iWords, Arguments& oArguments)
     return true;
 }
 
-/// The page to show goes through the shell as it stands, so nothing in its path may mean anything
-/// there.
-void CheckForShell(const fs::path& iPath)
+/// The directory for a browser, whatever directory that one has. The page to show goes through the
+/// command interpreter as it stands, so nothing in its path may mean anything there.
+std::string PathForBrowser(const std::string& iDirectory)
 {
     const char* const plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"
                               "/._-+,:@";
-    if (iPath.string().find_first_not_of(plain) != std::string::npos)
-        throw truss::InputError(iPath.string() +
-                                ": --open takes only ASCII letters, digits and / . _ - + , : @ in "
-                                "this path, since the browser is started through the shell");
+    const std::string path = std::filesystem::absolute(iDirectory).generic_string();
+    if (path.find_first_not_of(plain) != std::string::npos)
+        throw truss::InputError(path + ": --open takes only ASCII letters, digits and "
+                                       "/ . _ - + , : @ in this path, since the browser is started "
+                                       "through the command interpreter");
+    return path;
 }
 
 std::vector<truss::LoadCase> ChooseCases(const truss::Model& iModel,
@@ -74,12 +75,12 @@ std::vector<truss::LoadCase> ChooseCases(const truss::Model& iModel,
     return cases;
 }
 
-void Open(const fs::path& iPage)
+void Open(const std::string& iPage)
 {
     const int status = VORKTRReportTools::StartBrowser(iPage.c_str(), 0);
     if (status == -1)
-        std::cout << "no browser launcher (RunNs.sh on VORCommandPath) was found: open "
-                  << iPage.string() << " yourself\n";
+        std::cout << "no browser launcher (RunNs.sh on VORCommandPath) was found: open " << iPage
+                  << " yourself\n";
     else if (status != 0)
         throw std::runtime_error("the browser launcher failed");
 }
@@ -87,9 +88,8 @@ void Open(const fs::path& iPage)
 /// Everything that the input can get wrong shows before the first file is written.
 void Run(const Arguments& iArguments)
 {
-    const fs::path directory = fs::absolute(iArguments.directory);
-    if (iArguments.isOpening)
-        CheckForShell(directory);
+    const std::string directory =
+        iArguments.isOpening ? PathForBrowser(iArguments.directory) : iArguments.directory;
     const truss::Model model = truss::ReadModel(iArguments.model);
     const std::vector<truss::LoadCase> cases = ChooseCases(model, iArguments.cases);
     const truss::Solver solver(model);

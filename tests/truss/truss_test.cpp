@@ -171,7 +171,7 @@ TEST_F(TrussProgram, TellsWhatCannotBeWritten)
         fs::create_directory(site);
         fs::create_symlink("/dev/full", fs::path(site) / name);
         EXPECT_EQ(RunTruss(model + site), 1) << name;
-        EXPECT_EQ(Occurrences(_Said, name + ": cannot be written"), 1) << _Said;
+        EXPECT_EQ(Occurrences(_Said, "cannot be written: disk full"), 1) << _Said;
     }
 }
 
