@@ -1,11 +1,11 @@
 // Writes the two sites that the browser tests read: DIRECTORY/frames and DIRECTORY/single.
 
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <string>
 #include <string_view>
 
+#include "SetEnv.h"
 #include "VORKTRReportTools.h"
 #include "VORKTRReportingBuffer.h"
 #include "VORKTRReportingFile.h"
@@ -88,7 +88,7 @@ int main(int argc, char** argv)
     }
     const std::string directory = argv[1];
     WriteFile(directory + "/Corp.gif", Pixel);
-    setenv("VORGraphicPath", directory.c_str(), 1);
+    SetEnv("VORGraphicPath", directory.c_str());
     const bool isWritten =
         WriteSite(directory + "/frames", 3) && WriteSite(directory + "/single", 1);
     return isWritten ? 0 : 1;
