@@ -227,8 +227,7 @@ void PutPrintf(Output& ioOutput, const VORFormatParts& iParts, Number iValue)
     putIf(iParts.left, '-');
     putIf(iParts.zero, '0');
     putIf(iParts.alternate, '#');
-    // Signs are for signed numbers, which not every printf knows.
-    putIf(iParts.plus != '\0' && !IsOneOf(iParts.conversion, "ouxXc"), iParts.plus);
+    putIf(iParts.plus != '\0', iParts.plus);
     if (iParts.width >= 0)
         putNumber(iParts.width);
     putIf(iParts.precision >= 0, '.');

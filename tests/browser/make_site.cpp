@@ -1,11 +1,18 @@
-// Writes the two sites that the browser tests read: DIRECTORY/frames and DIRECTORY/single.
+// Writes the sites that the browser tests read: DIRECTORY/frames, DIRECTORY/single, DIRECTORY/kit.
 
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "SetEnv.h"
+#include "VORKTRArrayTable.h"
+#include "VORKTRCharset.h"
+#include "VORKTRFigure.h"
+#include "VORKTRHeading.h"
+#include "VORKTRLook.h"
+#include "VORKTRProse.h"
 #include "VORKTRReportTools.h"
 #include "VORKTRReportingBuffer.h"
 #include "VORKTRReportingFile.h"
@@ -13,6 +20,7 @@
 #include "VORKTRReportingTable.h"
 #include "VORKTRReportingText.h"
 #include "VORKTRReportingTitle.h"
+#include "VORKTRTableCaption.h"
 
 namespace
 {
@@ -42,7 +50,7 @@ VORKTRReportingList* MakeList()
 
 VORKTRReportingTable* MakeTable()
 {
-    auto* const table = new VORKTRReportingTable(0x01 | 0x08);
+    auto* const table = new VORKTRReportingTable(VORKTRTableHeaderRow | VORKTRTableRuled);
     table->SetText(0, 0, "Node");
     table->SetText(0, 1, "Displacement [\u00b5m]");
     table->SetText(1, 0, "A<1> & \u03b1");
@@ -78,6 +86,38 @@ bool WriteSite(const std::string& iDirectory, int iChapters)
            report.MakeReloadPage() == 0;
 }
 
+// A long table that is wider than a phone, a wide drawing, and a link back to both.
+bool WriteKitSite(const std::string& iDirectory)
+{
+    static const std::vector<double> numbers(200, 123456.789);
+    VORKTRReportTools::InitFigureNumber();
+    VORKTRReportingBuffer report;
+    report.AddObject(new VORKTRCharset);
+    report.AddObject(new VORKTRLook);
+    report.AddObject(new VORKTRProse("Br\u00fccke, \u03c3 in N/mm\u00b2"));
+    report.AddObject(new VORKTRHeading("Pressure in mPa \u00c4", 1));
+    const std::string drawing = iDirectory + ".svg";
+    WriteFile(drawing, Drawing);
+    auto* const figure = new VORKTRFigure(drawing.c_str(), "Wide \u03c3", "A circle", 3000);
+    report.AddObject(figure);
+    report.AddObject(new VORKTRHeading("Tables in mPa", 2));
+    auto* const caption = new VORKTRTableCaption("Many numbers");
+    report.AddObject(caption);
+    auto* const table = new VORKTRArrayTable(VORKTRTableHeaderRow, 200);
+    table->AddIndexColumn("row");
+    for (int column = 0; column < 10; ++column)
+        table->AddColumn("p", "mPa", numbers.data(), "%.3f");
+    report.AddObject(table);
+    report.AddObject(new VORKTRHeading("End", 1));
+    std::string sentence;
+    for (int i = 0; i < 40; ++i)
+        sentence += "words that have to break somewhere ";
+    auto* const prose = new VORKTRProse(VORUnicodeString(sentence));
+    prose->AddLink(*figure).Add(" and ").AddLink(*caption);
+    report.AddObject(prose);
+    return report.MakeReport(iDirectory.c_str(), "Br&#252;cke") == 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -88,8 +128,8 @@ int main(int argc, char** argv)
     }
     const std::string directory = argv[1];
     WriteFile(directory + "/Corp.gif", Pixel);
-    SetEnv("VORGraphicPath", directory.c_str());
-    const bool isWritten =
-        WriteSite(directory + "/frames", 3) && WriteSite(directory + "/single", 1);
+    setenv("VORGraphicPath", directory.c_str(), 1);
+    const bool isWritten = WriteSite(directory + "/frames", 3) &&
+                           WriteSite(directory + "/single", 1) && WriteKitSite(directory + "/kit");
     return isWritten ? 0 : 1;
 }

@@ -1,6 +1,7 @@
 #include "Reports.h"
 
-#include "SetEnv.h"
+#include <cstdlib>
+
 #include "VORFile.h"
 #include "VORKTRReportTools.h"
 #include "VORKTRReportingBag.h"
@@ -88,8 +89,8 @@ bool WriteFrames()
 
 bool WriteReports()
 {
-    SetEnv("KTRReportODT", "1");
-    SetEnv("VORGraphicPath", "none:images");
+    ::setenv("KTRReportODT", "1", 1);
+    ::setenv("VORGraphicPath", "none:images", 1);
     VORKTRReportTools::InitFigureNumber();
     return WriteSinglePage() && WriteFrames();
 }

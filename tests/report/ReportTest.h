@@ -4,9 +4,10 @@
 #include <initializer_list>
 #include <string>
 
+#include <stdlib.h>
+
 #include <gtest/gtest.h>
 
-#include "TestSystem.h"
 #include "VORFile.h"
 #include "VORKTRReportingBag.h"
 #include "VORKTRReportingBuffer.h"
@@ -72,7 +73,7 @@ protected:
     {
         for (const char* const name :
              {"KTRReportODT", "WKS_FR_ZENOA", "VORGraphicPath", "VORCommandPath", "KTR_ODT"})
-            SetEnv(name, nullptr);
+            ::unsetenv(name);
     }
 
     void Add(std::initializer_list<VORKTRReportingObj*> iItems)

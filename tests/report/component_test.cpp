@@ -122,8 +122,7 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     for (const auto& one : cases) {
         SCOPED_TRACE("case " + std::to_string(&one - cases));
         VORRegisterComponent("VORKTRReportingSettingCtrl", one.settings);
-        SetEnv("VORGraphicPath",
-               one.hasStandard ? (site + ListSeparator + ListSeparator + images).c_str() : "");
+        ::setenv("VORGraphicPath", one.hasStandard ? (site + "::" + images).c_str() : "", 1);
         Settings::Given = one.given;
         fs::remove_all(site);
         report.GetPagesNumber() = 1;
@@ -136,7 +135,7 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
             EXPECT_EQ(fs::exists(site + "/" + image), image == one.copied) << image;
     }
     WriteFile(site + "/Corp.gif", "an older and longer one");
-    SetEnv("VORGraphicPath", images.c_str());
+    ::setenv("VORGraphicPath", images.c_str(), 1);
     EXPECT_EQ(report.RemoveObject(1), 0);
     EXPECT_EQ(report.Update(), 0);
     EXPECT_EQ(Page("Corp.gif"), "standard");
