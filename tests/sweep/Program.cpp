@@ -101,8 +101,10 @@ bool Program::Write()
     };
     _OwnFile->Close();
     const bool hasArrived = _Report.TakeWriteStatus() == 0;
-    return hasArrived && std::all_of(std::begin(statuses), std::end(statuses),
-                                     [](int iStatus) { return iStatus >= 0; });
+    const bool hasBegun = std::all_of(std::begin(statuses), std::end(statuses),
+                                      [](int iStatus) { return iStatus >= 0; });
+    EXPECT_TRUE(hasBegun || !hasArrived) << "a failure without its reason";
+    return hasArrived;
 }
 
 void Program::Rewrite()

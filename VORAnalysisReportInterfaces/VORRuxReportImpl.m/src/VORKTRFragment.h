@@ -8,7 +8,8 @@
 
 #include "VORKTRBytes.h"
 
-/// Sends one finished fragment of HTML to a file, as one write. Its result is not looked at.
+/// Sends one finished fragment of HTML to a file, as one write. The close of the file
+/// tells what became of it.
 void SendFragment(unsigned int iFile, std::string_view iFragment);
 
 template <typename Piece>
