@@ -7,6 +7,10 @@ function(vor_configure_target target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                            -Wnon-virtual-dtor -Wold-style-cast
                            $<$<BOOL:${VOR_WERROR}>:-Werror>)
+    get_target_property(type ${target} TYPE)
+    if(WIN32 AND type STREQUAL EXECUTABLE)
+        target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/windows/utf-8.rc)
+    endif()
     if(VOR_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${VOR_SANITIZE}
                                -fno-sanitize-recover=all -fno-omit-frame-pointer)

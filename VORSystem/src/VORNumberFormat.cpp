@@ -227,7 +227,8 @@ void PutPrintf(Output& ioOutput, const VORFormatParts& iParts, Number iValue)
     putIf(iParts.left, '-');
     putIf(iParts.zero, '0');
     putIf(iParts.alternate, '#');
-    putIf(iParts.plus != '\0', iParts.plus);
+    // Signs are for signed numbers, which not every printf knows.
+    putIf(iParts.plus != '\0' && !IsOneOf(iParts.conversion, "ouxXc"), iParts.plus);
     if (iParts.width >= 0)
         putNumber(iParts.width);
     putIf(iParts.precision >= 0, '.');

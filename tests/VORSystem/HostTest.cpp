@@ -1,8 +1,8 @@
-#include <csignal>
 #include <iostream>
 
 #include <gtest/gtest.h>
 
+#include "TestSystem.h"
 #include "VORComponent.h"
 #include "VORDictionary.h"
 #include "VOREnvironment.h"
@@ -21,14 +21,13 @@ void Fail()
 
 TEST(FatalErrorDeathTest, AbortsUnlessAHandlerThrows)
 {
-    const testing::KilledBySignal aborted(SIGABRT);
     const VORFatalErrorHandler returning = [](const char* iKey, const char* iPath, int iLine) {
         std::cerr << iKey << '|' << iPath << '|' << iLine;
     };
     const VORFatalErrorHandler throwing = [](const char*, const char*, int) { throw 1; };
-    EXPECT_EXIT(Fail(), aborted, "Failed:_Text.*src/VORText.*4711");
+    EXPECT_EXIT(Fail(), Aborted, "Failed:_Text.*src/VORText.*4711");
     EXPECT_EQ(VORSetFatalErrorHandler(returning), nullptr);
-    EXPECT_EXIT(Fail(), aborted, "^Failed:_Text.src/VORText.4711$");
+    EXPECT_EXIT(Fail(), Aborted, "^Failed:_Text.src/VORText.4711");
     EXPECT_EQ(VORSetFatalErrorHandler(throwing), returning);
     EXPECT_THROW(Fail(), int);
     VORSetFatalErrorHandler(nullptr);

@@ -1,14 +1,16 @@
+#include <algorithm>
 #include <clocale>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
-#include <locale.h>
+#include <cstring>
 #include <random>
 #include <regex>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "TestSystem.h"
 #include "VORNumberFormat.h"
 #include "VORUnicodeString.h"
 
@@ -44,11 +46,11 @@ std::string Format(double iValue, const char* iFormat)
 template <typename Number>
 std::string Printf(Number iValue, const std::string& iFormat)
 {
-    static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
-    const locale_t previous = uselocale(locale);
+    const std::string previous = std::setlocale(LC_NUMERIC, nullptr);
+    std::setlocale(LC_NUMERIC, "C");
     char text[Room];
     const int length = std::snprintf(text, Room, iFormat.c_str(), iValue);
-    uselocale(previous);
+    std::setlocale(LC_NUMERIC, previous.c_str());
     return {text, static_cast<std::size_t>(length)};
 }
 
@@ -60,8 +62,8 @@ std::size_t Below(std::size_t iEnd)
 
 double RandomFloat()
 {
-    constexpr double special[] = {0.0,      -0.0,      5e-324,   -2e-308, HUGE_VAL, -HUGE_VAL,
-                                  999999.5, 9.9999995, -1.7e308, NAN,     -NAN,     0.00009995};
+    constexpr double special[] = {0.0,      -0.0,      5e-324,   -2e-308, HUGE_VAL,  -HUGE_VAL,
+                                  999999.5, 9.9999995, -1.7e308, NAN,     0.00009995};
     const double tie = (static_cast<double>(Below(20001)) - 10000) / 16; // often halfway
     const double usual = tie * std::pow(10, static_cast<double>(Below(30)) - 15) / 7;
     const double choices[] = {tie, usual, static_cast<float>(usual),
@@ -71,7 +73,7 @@ double RandomFloat()
 
 TEST(NumberFormat, GivesTheBytesOfPrintfWhateverTheLocale)
 {
-    ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8")) << "this locale must be installed";
+    ASSERT_TRUE(std::setlocale(LC_ALL, CommaLocale)) << "this locale must be installed";
     const std::string sizes[] = {"", "1", "12", "40", ".", "20.6", "9.20", "30.40"};
     for (const std::string flags : {"", "-", "+", " ", "0", "#", "'", "0-", " +", "#0+ "}) {
         for (int i = 0; i < 16000; ++i) {
@@ -84,10 +86,15 @@ TEST(NumberFormat, GivesTheBytesOfPrintfWhateverTheLocale)
             ASSERT_EQ(Format(value, format.c_str()), Printf(value, format)) << format;
             const std::string intFormat = conversion + "diuoxXcd"[i / 2 % 8];
             const auto number = static_cast<int>(Below(SIZE_MAX) >> Below(64)); // any magnitude
-            ASSERT_EQ(Format(number, intFormat.c_str()), Printf(number, intFormat)) << intFormat;
+            std::string usual = intFormat; // not every printf ignores the sign of an unsigned one
+            if (std::strchr("uoxX", usual.back()))
+                usual.erase(std::remove_if(usual.begin(), usual.end(),
+                                           [](char c) { return c == '+' || c == ' '; }),
+                            usual.end());
+            ASSERT_EQ(Format(number, intFormat.c_str()), Printf(number, usual)) << intFormat;
         }
     }
-    EXPECT_EQ(uselocale(nullptr), LC_GLOBAL_LOCALE);
+    EXPECT_EQ(Format(-NAN, "%.2f|") + Format(-NAN, "%+07G"), "-nan|   -NAN"); // not everywhere
     EXPECT_STREQ(std::localeconv()->decimal_point, ",") << "the process has lost its locale";
 }
 

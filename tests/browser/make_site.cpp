@@ -1,12 +1,12 @@
 // Writes the sites that the browser tests read: DIRECTORY/frames, DIRECTORY/single, DIRECTORY/kit.
 
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "SetEnv.h"
 #include "VORKTRArrayTable.h"
 #include "VORKTRCharset.h"
 #include "VORKTRFigure.h"
@@ -128,7 +128,7 @@ int main(int argc, char** argv)
     }
     const std::string directory = argv[1];
     WriteFile(directory + "/Corp.gif", Pixel);
-    setenv("VORGraphicPath", directory.c_str(), 1);
+    SetEnv("VORGraphicPath", directory.c_str());
     const bool isWritten = WriteSite(directory + "/frames", 3) &&
                            WriteSite(directory + "/single", 1) && WriteKitSite(directory + "/kit");
     return isWritten ? 0 : 1;

@@ -1,7 +1,6 @@
 #include "Reports.h"
 
-#include <cstdlib>
-
+#include "SetEnv.h"
 #include "VORFile.h"
 #include "VORKTRReportTools.h"
 #include "VORKTRReportingBag.h"
@@ -89,8 +88,8 @@ bool WriteFrames()
 
 bool WriteReports()
 {
-    ::setenv("KTRReportODT", "1", 1);
-    ::setenv("VORGraphicPath", "none:images", 1);
+    SetEnv("KTRReportODT", "1");
+    SetEnv("VORGraphicPath", "none:images");
     VORKTRReportTools::InitFigureNumber();
     return WriteSinglePage() && WriteFrames();
 }

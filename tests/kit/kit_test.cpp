@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "TestSystem.h"
 #include "VORKTRArrayTable.h"
 #include "VORKTRCharset.h"
 #include "VORKTRFigure.h"
@@ -107,7 +108,7 @@ TEST_F(Site, LinksLeadToWhatStandsBefore)
     prose.AddLink(heading).Add(", ").AddLink(figure).Add(", ").AddLink(caption).Add(", ");
     prose.AddLink(sub).Add(", ").AddLink(late).Add(" & <so> on");
     Add(&late);
-    ::setenv("KTRReportODT", "1", 1);
+    SetEnv("KTRReportODT", "1");
     Make();
     EXPECT_TRUE(Holds(Page("page2.html"),
                       "<FIGURE ID=\"figure1\">\n<IMG SRC=\"file1.png\" ALT=\"A &quot;bow&quot;\" "

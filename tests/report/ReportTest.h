@@ -4,10 +4,9 @@
 #include <initializer_list>
 #include <string>
 
-#include <stdlib.h>
-
 #include <gtest/gtest.h>
 
+#include "TestSystem.h"
 #include "VORFile.h"
 #include "VORKTRReportingBag.h"
 #include "VORKTRReportingBuffer.h"
@@ -73,7 +72,7 @@ protected:
     {
         for (const char* const name :
              {"KTRReportODT", "WKS_FR_ZENOA", "VORGraphicPath", "VORCommandPath", "KTR_ODT"})
-            ::unsetenv(name);
+            SetEnv(name, nullptr);
     }
 
     void Add(std::initializer_list<VORKTRReportingObj*> iItems)

@@ -122,7 +122,8 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     for (const auto& one : cases) {
         SCOPED_TRACE("case " + std::to_string(&one - cases));
         VORRegisterComponent("VORKTRReportingSettingCtrl", one.settings);
-        ::setenv("VORGraphicPath", one.hasStandard ? (site + "::" + images).c_str() : "", 1);
+        SetEnv("VORGraphicPath",
+               one.hasStandard ? (site + ListSeparator + ListSeparator + images).c_str() : "");
         Settings::Given = one.given;
         fs::remove_all(site);
         report.GetPagesNumber() = 1;
@@ -135,7 +136,7 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
             EXPECT_EQ(fs::exists(site + "/" + image), image == one.copied) << image;
     }
     WriteFile(site + "/Corp.gif", "an older and longer one");
-    ::setenv("VORGraphicPath", images.c_str(), 1);
+    SetEnv("VORGraphicPath", images.c_str());
     EXPECT_EQ(report.RemoveObject(1), 0);
     EXPECT_EQ(report.Update(), 0);
     EXPECT_EQ(Page("Corp.gif"), "standard");

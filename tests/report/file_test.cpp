@@ -1,4 +1,3 @@
-#include <csignal>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -6,13 +5,9 @@
 #include <string>
 #include <utility>
 
-#include <sys/resource.h>
-#include <sys/stat.h>
-
 #include <gtest/gtest.h>
 
-#include "ReportTest.h"
-#include "VORKTRReportingFile.h"
+#include "IncludedFile.h"
 #include "VORMsgCatalog.h"
 #include "VORStatus.h"
 #include "support/Rendering.h"
@@ -21,43 +16,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-class IncludedFile : public ReportTest
-{
-protected:
-    IncludedFile()
-    {
-        ::setenv("KTRReportODT", "1", 1);
-        fs::create_directory(site);
-    }
-
-    /// The path of a new file outside the site.
-    std::string Source(const std::string& iName, const std::string& iBytes = "new")
-    {
-        WriteFile(temporary.Path(iName), iBytes);
-        return temporary.Path(iName);
-    }
-
-    /// A sound of the report: its page shows nothing but its path.
-    VORKTRReportingFile* AddFile(const std::string& iPath)
-    {
-        auto* const item = new VORKTRReportingFile(VORKTRReportingSound, iPath.c_str());
-        Add({item});
-        return item;
-    }
-
-    VORKTRReportingFile* Send(VORKTRReportingFile* ioItem)
-    {
-        const VORUnicodeString directory(site.c_str());
-        ioItem->SetBufferData(&directory);
-        return ioItem;
-    }
-};
-
-std::string Embedded(const std::string& iPath)
-{
-    return "<P><CENTER><EMBED SRC=\"" + iPath + "\"></EMBED></CENTER></P>\n";
-}
 
 TEST_F(IncludedFile, IsMovedUnderANumberedName)
 {
@@ -81,7 +39,7 @@ TEST_F(IncludedFile, IsMovedUnderANumberedName)
 
 TEST_F(IncludedFile, BearsTheTimeUnlessNamesAreToRepeat)
 {
-    ::unsetenv("KTRReportODT");
+    SetEnv("KTRReportODT", nullptr);
     const std::time_t before = std::time(nullptr);
     const std::string html = HtmlOf(*Send(AddFile(Source("a.gif"))));
     const std::string name = fs::directory_iterator(site)->path().filename().string();
@@ -112,43 +70,6 @@ TEST_F(IncludedFile, IsMovedOnceItCanBe)
     EXPECT_EQ(report.GetIncludedFilesNumber(), 3);
 }
 
-TEST_F(IncludedFile, IsARegularFileOfTheSitesOwn)
-{
-    const std::string kept = Source("kept", "what links lead to");
-    fs::create_directory(temporary.Path("a.dir"));
-    ASSERT_EQ(::mkfifo(temporary.Path("a.pipe").c_str(), 0600), 0);
-    const std::pair<const char*, std::string> links[] = {
-        {"a.link", kept}, {"b.link", kept}, {"c.link", site + "/file6.link"}, {"d.link", "none"}};
-    for (const auto& [name, target] : links)
-        fs::create_symlink(target, temporary.Path(name));
-    fs::create_hard_link(Source("a.hard", "hard"), site + "/file3.hard");
-    fs::create_symlink(kept, site + "/file5.link");
-    WriteFile(site + "/file6.link", "a link's own target");
-    const struct {
-        const char *name, *moved, *bytes;
-        int status;
-    } cases[] = {{"a.dir", nullptr, nullptr, VOR_E_ACCESS_DENIED},
-                 {"a.pipe", nullptr, nullptr, VOR_E_ACCESS_DENIED},
-                 {"a.hard", "file3.hard", "hard", 0},
-                 {"a.link", "file4.link", "what links lead to", 0},
-                 {"b.link", "file5.link", "what links lead to", 0},
-                 {"c.link", "file6.link", "a link's own target", 0},
-                 {"d.link", nullptr, nullptr, VOR_E_FILE_NOT_FOUND}};
-    for (const auto& one : cases) {
-        const std::string path = temporary.Path(one.name);
-        EXPECT_EQ(HtmlOf(*Send(AddFile(path))), Embedded(one.moved ? one.moved : path));
-        EXPECT_EQ(report.TakeWriteStatus(), one.status) << one.name;
-        EXPECT_EQ(fs::exists(fs::symlink_status(path)), !one.moved) << one.name;
-        if (one.moved) {
-            EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(site + "/" + one.moved)));
-            EXPECT_EQ(Page(one.moved), one.bytes);
-        }
-    }
-    EXPECT_EQ(ReadFile(kept), "what links lead to");
-    EXPECT_EQ(HtmlOf(*Send(AddFile("/proc/self/mem"))), Embedded("file8")); // opens, is not read
-    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FAIL);
-}
-
 TEST_F(IncludedFile, IsDeletedWithItsItem)
 {
     Send(AddFile(temporary.Path("none.gif")));
@@ -162,43 +83,6 @@ TEST_F(IncludedFile, IsDeletedWithItsItem)
     EXPECT_EQ(report.RemoveObject(2), 0);
     EXPECT_FALSE(fs::exists(site + "/file2.gif"));
     EXPECT_FALSE(fs::exists(temporary.Path("own.gif")));
-}
-
-dev_t DeviceOf(const std::string& iPath)
-{
-    struct stat status = {};
-    return ::stat(iPath.c_str(), &status) == 0 ? status.st_dev : 0;
-}
-
-TEST_F(IncludedFile, IsCopiedFromAnotherFileSystemAndDeletedWhenItArrivedWhole)
-{
-    for (const char* const place : {"/dev/shm", "/run", "/var/tmp", "."}) {
-        ::setenv("TMPDIR", place, 1);
-        if (fs::exists(place) && DeviceOf(place) != DeviceOf(site))
-            break;
-    }
-    const TemporaryDirectory far;
-    ASSERT_NE(DeviceOf(far.Path()), DeviceOf(site)) << "no second file system";
-    std::string bytes;
-    for (int i = 0; i < 100001; ++i)
-        bytes += static_cast<char>(i % 251);
-    WriteFile(far.Path("a.gif"), bytes);
-
-    fs::create_symlink(Source("other"), site + "/file1.gif"); // is replaced, not followed
-    EXPECT_EQ(HtmlOf(*Send(AddFile(far.Path("a.gif")))), Embedded("file1.gif"));
-    EXPECT_TRUE(Page("file1.gif") == bytes);
-    EXPECT_EQ(ReadFile(temporary.Path("other")), "new");
-    EXPECT_FALSE(fs::exists(far.Path("a.gif")));
-
-    WriteFile(far.Path("b.gif"), bytes);
-    std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit limit;
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-    limit.rlim_cur = bytes.size() - 1;
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    EXPECT_EQ(HtmlOf(*Send(AddFile(far.Path("b.gif")))), Embedded("file2.gif"));
-    EXPECT_TRUE(ReadFile(far.Path("b.gif")) == bytes);
-    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_DISK_FULL);
 }
 
 TEST_F(IncludedFile, ShowsItsKind)

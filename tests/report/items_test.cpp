@@ -176,7 +176,7 @@ TEST_F(ItemsTest, FloatsAlwaysHoldAPointAndKeepTheirBound)
         {3, "%28.0f", " 3."},
         {1e30f, "%f", " 1.00000002e+30"},
     };
-    ASSERT_TRUE(std::setlocale(LC_ALL, "de_DE.UTF-8")) << "this locale must be installed";
+    ASSERT_TRUE(std::setlocale(LC_ALL, CommaLocale)) << "this locale must be installed";
     for (const auto& one : cases)
         EXPECT_EQ(HtmlOf(VORKTRReportingFloat(one.value, one.format)), one.text) << one.format;
     char text[VORKTRReportingFloat::TextSize];

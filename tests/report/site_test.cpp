@@ -1,16 +1,10 @@
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <utility>
 
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
 #include "ReportTest.h"
-#include "VORKTRReportTools.h"
 #include "VORKTRReportingFloat.h"
 #include "VORKTRReportingInt.h"
 #include "VORKTRReportingTable.h"
@@ -23,13 +17,6 @@ namespace
 
 namespace fs = std::filesystem;
 using SiteTest = ReportTest;
-
-/// What follows the body's opening tag; empty without a body.
-std::string BodyOf(const std::string& iPage)
-{
-    const std::size_t body = iPage.find("<BODY ");
-    return body == std::string::npos ? "" : iPage.substr(iPage.find('\n', body) + 1);
-}
 
 /// The names of a site's files, each before the body of its page.
 std::string Bodies(const std::string& iSite)
@@ -60,7 +47,7 @@ TEST_F(SiteTest, SinglePageHoldsEveryItemInOrder)
 
 TEST_F(SiteTest, HeadingsDivideASiteWithFrames)
 {
-    ::setenv("WKS_FR_ZENOA", "R12", 1);
+    SetEnv("WKS_FR_ZENOA", "R12");
     Add({Text("Before\tall"), Title("Scope", 3), Title("Loads <&>", 0),
          new VORKTRReportingFloat(2.5f, "%.3f"), Title("Wind", 3), Text("x < y\nz"),
          Title("Results", 2),
@@ -80,8 +67,8 @@ TEST_F(SiteTest, GeneratorLineFollowsTheEnvironment)
                  {"", "R12", "ZENOA"},    {"1", "", "ZENOA"},    {"1", "R12", "ZENOA"}};
     Add({Title("", 2), Title("", 2)});
     for (const auto& one : cases) {
-        one.odt ? ::setenv("KTRReportODT", one.odt, 1) : ::unsetenv("KTRReportODT");
-        one.level ? ::setenv("WKS_FR_ZENOA", one.level, 1) : ::unsetenv("WKS_FR_ZENOA");
+        SetEnv("KTRReportODT", one.odt);
+        SetEnv("WKS_FR_ZENOA", one.level);
         EXPECT_EQ(Make(), 0);
         EXPECT_EQ(report.MakeReloadPage(), 0);
         const std::string line =
@@ -178,12 +165,6 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
         written += Bodies(site) + "\n";
     }
     EXPECT_EQ(written, Expected("failed_runs.txt"));
-
-    // A single page says why it cannot be opened.
-    fs::remove(site + "/index.html");
-    fs::create_symlink("none/index.html", site + "/index.html");
-    EXPECT_EQ(Make(), VOR_E_FILE_NOT_FOUND);
-    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
 }
 
 TEST_F(SiteTest, ARunClosesThePagesThatAFailedOneLeftOpen)
@@ -199,109 +180,8 @@ TEST_F(SiteTest, ARunClosesThePagesThatAFailedOneLeftOpen)
     EXPECT_EQ(late->directory, site);
     unsigned int files[3]; // in a process of its own the lowest numbers are free again
     for (unsigned int& file : files)
-        ASSERT_EQ(VORFOpen("/dev/null", "w", file), 0);
+        ASSERT_EQ(VORFOpen(NullDevice, "w", file), 0);
     EXPECT_EQ(files[0] + files[1] + files[2], 1u + 2u + 3u);
-}
-
-/// Writes a file of its own over several items.
-struct FileWriter : Probe {
-    explicit FileWriter(const std::string& iPath) : path(iPath) {}
-    ~FileWriter() override { VORFClose(file); }
-    void Report(unsigned int, const char*, unsigned char, unsigned int) const override
-    {
-        EXPECT_EQ(VORFOpen(path.c_str(), "w", file), 0);
-        VORFWrite(file, "own", 3, nullptr);
-    }
-
-    std::string path;
-    mutable unsigned int file = 0;
-};
-
-TEST_F(SiteTest, FailuresOfPagesCostOnlyTheirItems)
-{
-    fs::create_directories(site + "/page2.html");
-    for (const char* const name : {"index.html", "main.css", "page4.html"})
-        fs::create_symlink("/dev/full", site + "/" + name);
-    auto* const own = new FileWriter(temporary.Path("own"));
-    Add({Title("A", 1), own, Text("lost"), Title("B", 1), Text("b"), Title("C", 2)});
-    EXPECT_EQ(Make(), 0);
-    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_DISK_FULL);
-    EXPECT_EQ(report.RemoveObject(own), 0);
-    EXPECT_EQ(ReadFile(temporary.Path("own")), "own"); // a lost page's items went nowhere
-    EXPECT_EQ(BodyOf(Page("page1.html")) + BodyOf(Page("page3.html")) +
-                  BodyOf(Page("navigation.html")),
-              Expected("pages_after_failures.txt"));
-    EXPECT_EQ(report.RemoveObject(0), 0);
-    EXPECT_EQ(report.Update(), 0); // a single page on a full disk
-    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_DISK_FULL);
-    for (const char* const name : {"index.html", "main.css"})
-        fs::remove(site + "/" + name);
-    EXPECT_EQ(report.Update(), 0);
-    report.NoteWriteStatus(VOR_S_OK);
-    EXPECT_EQ(report.TakeWriteStatus(), 0);
-    report.NoteWriteStatus(VOR_E_INVALIDARG);
-    report.NoteWriteStatus(VOR_E_FAIL);
-    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_INVALIDARG);
-}
-
-TEST_F(SiteTest, AFullDiskIsToldAndMendedByTheNextRun)
-{
-    Add({Title("A", 1), Text("a"), Title("B", 1), Text(std::string(70000, 'b').c_str())});
-    ASSERT_EQ(Make(), 0);
-    EXPECT_EQ(report.Update(), 0);
-    const auto whole = ReadTree(site);
-    std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit limit;
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-    for (const rlim_t size : {rlim_t{100}, rlim_t{66000}, limit.rlim_max}) {
-        const bool isFull = size != limit.rlim_max;
-        limit.rlim_cur = size;
-        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-        EXPECT_EQ(report.TakeWriteStatus(), 0);
-        report.GetIndex() = 1;
-        EXPECT_EQ(report.Update(), 0);
-        EXPECT_EQ(report.TakeWriteStatus(), isFull ? VOR_E_DISK_FULL : 0);
-        EXPECT_EQ(ReadTree(site) == whole, !isFull);
-    }
-}
-
-TEST_F(SiteTest, ADirectoryThatMayNotBeWrittenEndsTheRun)
-{
-    fs::create_directory(site);
-    fs::permissions(site, fs::perms{0555});
-    fs::permissions(temporary.Path(), fs::perms{0755});
-    const auto runUnprivileged = [&] {
-        constexpr unsigned int nobody = 65534; // to root every access is granted
-        if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-            ::_exit(2);
-        VORUnicodeString directory(site.c_str());
-        const int refused = VORFileAccess(directory, 2, 0);
-        const bool isRefused = refused < 0 && report.MakeReport(directory, "") == refused &&
-                               report.TakeWriteStatus() == refused;
-        const bool hasNoStyle = report.MakeStylesheets(directory, 0) == VOR_E_FAIL;
-        ::_exit(isRefused && hasNoStyle ? 0 : 1);
-    };
-    EXPECT_EXIT(runUnprivileged(), testing::ExitedWithCode(0), "");
-    EXPECT_TRUE(fs::is_empty(site));
-}
-
-TEST_F(SiteTest, BrowserIsStartedByTheLauncher)
-{
-    const std::string page = temporary.Path("a page.html");
-    const std::string arguments = temporary.Path("arguments");
-    EXPECT_EQ(VORKTRReportTools::StartBrowser(page.c_str(), 0), -1);
-    ::setenv("VORCommandPath", (temporary.Path("none") + ":" + temporary.Path()).c_str(), 1);
-    EXPECT_EQ(VORKTRReportTools::StartBrowser(page.c_str(), 0), -1);
-    const std::string launcher = temporary.Path("RunNs.sh");
-    WriteFile(launcher, "#!/bin/sh\nprintf '<%s>' \"$@\" >'" + arguments + "'\nexit 3\n");
-    fs::permissions(launcher, fs::perms{0755});
-    const int status = VORKTRReportTools::StartBrowser(page.c_str(), 1);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 3) << status;
-    EXPECT_EQ(ReadFile(arguments), "<" + temporary.Path("a") + "><page.html>");
-    fs::remove(arguments);
-    ::setenv("KTR_ODT", "", 1);
-    EXPECT_EQ(VORKTRReportTools::StartBrowser(page.c_str(), 0), 0);
-    EXPECT_FALSE(fs::exists(arguments));
 }
 
 } // namespace

@@ -53,16 +53,18 @@ TEST_F(TextReport, NumbersAreTheSameInEveryLocale)
     table->SetFloat(0, 1, -2.5, "%8.2f mm");
     Add({text, list, table, new VORKTRReportingInt(7, "%s"),
          new VORKTRReportingFloat(-1.5f, "%g")});
-    ::setenv("KTRReportODT", "1", 1);
-    for (const std::string locale : {"C", "de_DE.UTF-8"}) {
-        ASSERT_TRUE(std::setlocale(LC_ALL, locale.c_str())) << locale << " must be installed";
+    SetEnv("KTRReportODT", "1");
+    for (const std::string locale : {"C", CommaLocale}) {
+        const char* const set = std::setlocale(LC_ALL, locale.c_str());
+        ASSERT_TRUE(set) << locale << " must be installed";
+        const std::string before = set;
         EXPECT_EQ(VORKTRReportingList::float_separator(), locale == "C" ? '.' : ',');
         VORUnicodeString plain;
         report.MakeTextReport("", plain);
         EXPECT_EQ(plain.ConvertToChar(), Expected("numbers.txt")) << locale;
         EXPECT_EQ(Make("Numbers"), 0);
         EXPECT_EQ(Page("index.html"), Expected("numbers.html")) << locale;
-        EXPECT_EQ(std::setlocale(LC_ALL, nullptr), locale);
+        EXPECT_EQ(std::setlocale(LC_ALL, nullptr), before);
     }
 }
 

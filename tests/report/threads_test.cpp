@@ -70,7 +70,7 @@ using Threads = ReportTest;
 
 TEST_F(Threads, DifferentReportsAreMadeInDifferentThreadsAtOnce)
 {
-    ::setenv("KTRReportODT", "1", 1);
+    SetEnv("KTRReportODT", "1");
     VORRegisterComponent("VORKTRReportingSettingCtrl",
                          []() -> VORBaseUnknown* { return new PaperSettings; });
     const auto alone = SiteOfUser(0);

@@ -4,11 +4,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <system_error>
-
-#include <stdlib.h>
 
 /// A fresh directory for one test, removed with all its contents at the end.
 class TemporaryDirectory
@@ -16,10 +15,11 @@ class TemporaryDirectory
 public:
     TemporaryDirectory()
     {
-        std::string path = (std::filesystem::temp_directory_path() / "vor-test-XXXXXX").string();
-        if (!::mkdtemp(path.data()))
-            throw std::runtime_error("no temporary directory can be made: " + path);
-        _Path = path;
+        std::random_device random;
+        do
+            _Path =
+                std::filesystem::temp_directory_path() / ("vor-test-" + std::to_string(random()));
+        while (!std::filesystem::create_directory(_Path));
     }
     TemporaryDirectory(const TemporaryDirectory&) = delete;
     TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
@@ -30,8 +30,8 @@ public:
     }
 
     /// The directory itself, without a separator at its end.
-    std::string Path() const { return _Path.string(); }
-    std::string Path(const std::string& iName) const { return (_Path / iName).string(); }
+    std::string Path() const { return _Path.generic_string(); }
+    std::string Path(const std::string& iName) const { return Path() + '/' + iName; }
 
 private:
     std::filesystem::path _Path;

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include "TrussReader.h"
 #include "TrussSolver.h"
@@ -28,31 +27,6 @@ void ExpectNear(const Vector& iActual, const Vector& iExpected)
     EXPECT_LT((iActual - iExpected).norm(), 1e-9 * iExpected.norm())
         << iActual.transpose() << " instead of " << iExpected.transpose();
 }
-
-int Occurrences(const std::string& iText, const std::string& iPattern)
-{
-    const std::regex pattern(iPattern);
-    return static_cast<int>(std::distance(std::sregex_iterator(iText.begin(), iText.end(), pattern),
-                                          std::sregex_iterator()));
-}
-
-class TrussProgram : public testing::Test
-{
-protected:
-    /// Exit status of a program; what it says is kept.
-    int Run(const std::string& iCommand)
-    {
-        const int status = std::system((iCommand + " >" + Path("log") + " 2>&1").c_str());
-        _Said = ReadFile(Path("log"));
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-    int RunTruss(const std::string& iArguments) { return Run(TRUSS_PROGRAM " " + iArguments); }
-    std::string Path(const std::string& iName) const { return _Directory.Path(iName); }
-
-    const TemporaryDirectory _Directory;
-    const std::string _Site = Path("site");
-    std::string _Said;
-};
 
 } // namespace
 
@@ -110,95 +84,4 @@ TEST(Truss, TowerReachesItsLimit)
     const truss::Solver solver(model);
     EXPECT_NEAR(solver.Solve(model.cases[0]).displacements[0].y(), 0.35, 1e-4);
     EXPECT_NEAR(solver.Solve(model.cases[1]).displacements[1].y(), 0.35, 1e-4);
-}
-
-TEST_F(TrussProgram, RefusesBadInputAndWritesNothing)
-{
-    const std::string head = "title T\nunits m N kg\nmaterial s 2e11\nnode a 0 0 0\nnode b 1 0 0\n"
-                             "support a xyz\nbar 1 a b s 1e-4\n"; // 7 lines
-    const std::string rest = "support b yz\ncase c\nload b 1 0 0\n";
-    const std::string mechanism = ": the structure is a mechanism: node ";
-    const std::pair<std::string, std::string> inputs[] = {
-        {"bridge", ":8: unknown keyword \"bridge\""},
-        {"node c 1 2", ":8: expected: node NAME X Y Z"},
-        {"node c 1 2 3 4", ":8: expected: node NAME X Y Z"},
-        {"node c 1 2 3x # no", ":8: \"3x\" is not a number or out of range"},
-        {"node c 1 nan 0", ":8: \"nan\" is not a number or out of range"},
-        {"node c 1 1e999 0", ":8: \"1e999\" is not a number or out of range"},
-        {"\n# two lines down\nnode a 1 2 3", ":10: node a is defined twice"},
-        {"bar 2 a c s 1", ":8: node c is not defined above"},
-        {"bar 2 a b t 1", ":8: material t is not defined above"},
-        {"bar 2 a a s 1", ":8: bar 2 has no length"},
-        {"bar 2 a b s 0", ":8: the area must be positive"},
-        {"material t -1", ":8: the modulus must be positive"},
-        {"support a x", ":8: node a has a support already"},
-        {"support b xx", ":8: the directions of a support are some of x, y and z, as in \"xz\""},
-        {"load b 1 0 0", ":8: a load must follow the case that it belongs to"},
-        {"case c\ncase d", ":9: load case c has no loads"},
-        {"node <c> 1 2 3", ":8: a name is made of ASCII characters other than & < > and \""},
-        {"title U", ":8: there is a title already"},
-        {"", ":9: the model has no load case"},
-        {"support b z\ncase c\nload b 1 0 0", mechanism + "b is free to move in y"},
-        {"node lonely 3 3 3\n" + rest, mechanism + "lonely is free to move in "},
-        {"node d 0 1 0\nnode e 0 2 0\nbar 2 d e s 1\n" + rest, mechanism},
-        {"node c .3 .7 .4\nbar 2 a c s 1\nbar 3 b c s 1\n" + rest,
-         mechanism + "c is free to move in "},
-        {rest + "load b 3e38 0 0\nload b 3e38 0 0", ": load case c: the results are out of range"},
-    };
-    const std::string path = Path("m.truss");
-    for (const auto& [text, message] : inputs) {
-        WriteFile(path, head + text + "\n");
-        EXPECT_EQ(RunTruss(path + " " + _Site), 2);
-        EXPECT_EQ(_Said.find(path + message), 0u) << _Said << " instead of " << message;
-    }
-    const std::string tower = ModelPath("tower25");
-    for (const std::string& arguments :
-         {std::string(), tower, tower + " ''", "--close " + tower + " " + _Site,
-          path + "x " + _Site, tower + " " + _Site + " torsion earthquake",
-          "--open " + tower + " '" + _Site + ";x'"})
-        EXPECT_EQ(RunTruss(arguments), 2) << arguments;
-    // Only the model and what was said.
-    EXPECT_EQ(std::distance(fs::directory_iterator(_Directory.Path()), {}), 2);
-}
-
-TEST_F(TrussProgram, TellsWhatCannotBeWritten)
-{
-    const std::string model = ModelPath("two_bar") + " ";
-    EXPECT_EQ(RunTruss(model + Path("missing/site")), 1);
-    EXPECT_EQ(RunTruss(model + Path("log")), 1); // a file
-    for (const std::string name : {"page5.html", "navigation.html", "main.css", "report.txt"}) {
-        const std::string site = Path("full-" + name);
-        fs::create_directory(site);
-        fs::create_symlink("/dev/full", fs::path(site) / name);
-        EXPECT_EQ(RunTruss(model + site), 1) << name;
-        EXPECT_EQ(Occurrences(_Said, "cannot be written: disk full"), 1) << _Said;
-    }
-}
-
-TEST_F(TrussProgram, WritesSiteAndFigures)
-{
-    ::unsetenv("VORCommandPath");
-    ::unsetenv("KTR_ODT");
-    ::setenv("KTRReportODT", "1", 1); // names of included files without a time stamp
-    ASSERT_EQ(RunTruss("--open " + ModelPath("tower25") + " " + _Site + " wires torsion"), 0);
-    EXPECT_EQ(Occurrences(_Said, "no browser launcher"), 1);
-
-    const std::string text = ReadFile(_Site + "/report.txt");
-    EXPECT_LT(text.find("25-bar transmission tower"), text.find("Load case wires"));
-    EXPECT_LT(text.find("Load case wires"), text.find("Load case torsion"));
-    EXPECT_LT(text.find("Load case torsion"), text.size());
-    EXPECT_EQ(
-        Occurrences(ReadFile(_Site + "/navigation.html"), "<H1>Load case (wires|torsion)</H1>"), 2);
-    EXPECT_TRUE(fs::exists(_Site + "/reload.html"));
-
-    EXPECT_EQ(ReadFile(_Site + "/file1.wrl").find("#VRML V2.0 utf8\n"), 0u);
-    EXPECT_EQ(Occurrences(ReadFile(_Site + "/file1.wrl"), "USE BAR"), 25);
-    const std::string readXml =
-        PYTHON_PROGRAM " -c 'import sys, xml.dom.minidom; xml.dom.minidom.parse(sys.argv[1])' ";
-    for (const char* name : {"/file2.svg", "/file3.svg"}) {
-        const std::string drawing = ReadFile(_Site + name);
-        EXPECT_EQ(Occurrences(drawing, "nan|inf"), 0);
-        EXPECT_EQ(Occurrences(drawing, "class=\"deformed\"[^>]*stroke=\"rgb"), 25);
-        EXPECT_EQ(Run(readXml + _Site + name), 0) << _Said;
-    }
 }
