@@ -33,6 +33,8 @@ public:
     static int WriteText(float iValue, const VORFloatFormat& iFormat, char* oText);
     static int WriteText(double iValue, const VORFloatFormat& iFormat, char* oText);
     /// @}
+    /// Length in bytes of the text of a float.
+    static int GetTextLength(float iValue, const VORFloatFormat& iFormat);
 
     int GetType() const override;
     void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,

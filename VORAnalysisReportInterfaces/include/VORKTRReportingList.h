@@ -77,7 +77,7 @@ private:
     int Store(const VORUnicodeString& iLabel, VORKTRValue ioValue, const VORUnicodeString& iUnit);
     bool HasFloats() const;
     void AppendSeparatorCell(Fragment& ioHtml, const Line& iLine) const;
-    void AppendValue(VORUnicodeString& out, const Line& iLine, int iValueWidth,
+    void AppendValue(VORUnicodeString& out, std::string& ioText, const Line& iLine, int iValueWidth,
                      int iUnitWidth) const;
 
     VORKTRValues _Values; // outlives the lines

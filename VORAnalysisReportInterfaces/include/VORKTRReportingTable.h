@@ -86,6 +86,7 @@ private:
     int SetNew(int iRow, int iColumn, const Arguments&... iArguments);
     void Rearrange(int iRows, int iColumns);
     std::vector<int> MeasureColumns() const;
+    bool IsMeasuredOnce() const;
     char CellStyle(int iRow, int iColumn) const;
     bool HasRuleBelow(int iRow) const;
     char SeparatorChar() const;
@@ -100,6 +101,7 @@ private:
     int _RowNb = 0;
     int _ColumnNb = 0;
     unsigned long _Style;
+    bool _HoldsItems = false; // or held one
 };
 
 #endif

@@ -8,6 +8,7 @@
 /// included, never reaches printf: the number is written with the default format instead. The text
 /// is that of the "C" locale, whatever the process uses.
 
+#include <cmath>
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -84,11 +85,12 @@ public:
     int Write(double iValue, char* oText, std::size_t iSize) const;
     /// Length in bytes of what Write writes; for "%.3f" and its like without making the text.
     int GetLength(double iValue) const;
+    /// True when what Write writes is known to hold a '.'.
+    bool HasPoint(double iValue) const { return _HasPoint && std::isfinite(iValue); }
 
 private:
-    bool IsScaled(double iValue) const;
-
-    bool _IsPlainFixed;
+    bool _IsPlainFixed; // "%.3f" and its like
+    bool _HasPoint;     // of finite numbers
 };
 
 #endif

@@ -247,6 +247,13 @@ constexpr auto PowersOfTen = [] {
     return powers;
 }();
 
+constexpr auto DoublePowersOfTen = [] {
+    std::array<double, PowersOfTen.size()> powers{};
+    for (std::size_t i = 0; i < powers.size(); ++i)
+        powers[i] = static_cast<double>(PowersOfTen[i]);
+    return powers;
+}();
+
 // "00", "01" to "99", one after the other.
 constexpr auto Pairs = [] {
     std::array<char, 200> pairs{};
@@ -261,26 +268,27 @@ class ScaledNumber
 {
 public:
     static constexpr std::size_t LongestText = 20; // sign, 16 digits, point, NUL
-
-    /// True when scaling the number to an integer is exact: it was a float, whose 24 bits and the
-    /// 28 of 5^12 fit a double.
-    static bool Fits(double iValue, int iPrecision)
-    {
-        constexpr int largestPrecision = 12;
-        constexpr double largest = 9e15; // below 2^53
-        return iPrecision <= largestPrecision &&
-               std::abs(iValue) * PowerOfTen(iPrecision) < largest &&
-               static_cast<double>(static_cast<float>(iValue)) == iValue;
-    }
+    static constexpr int LargestPrecision = 12;    // of an IsExact number
 
     ScaledNumber(double iValue, int iPrecision)
-        : _Digits(Round(std::abs(iValue) * PowerOfTen(iPrecision))), _Precision(iPrecision),
-          _Count(iPrecision + 1), _Negative(std::signbit(iValue) ? 1 : 0)
+        : _Precision(iPrecision), _Count(iPrecision + 1), _Negative(std::signbit(iValue) ? 1 : 0)
     {
+        constexpr double largest = 9e15; // below 2^53
+        const double scaled =
+            std::abs(iValue) * DoublePowersOfTen[static_cast<std::size_t>(iPrecision)];
+        _IsExact = scaled < largest && static_cast<double>(static_cast<float>(iValue)) == iValue;
+        if (!_IsExact)
+            return;
+        _Digits = Round(scaled);
         for (auto count = static_cast<std::size_t>(_Count);
              count < PowersOfTen.size() && _Digits >= PowersOfTen[count]; ++count)
             ++_Count;
     }
+
+    /// True when scaling the number gave the integer exactly, or a fraction that was rounded: it
+    /// was a float, whose 24 bits and the 28 of 5^12 fit a double. Without this there are no
+    /// digits.
+    bool IsExact() const { return _IsExact; }
 
     int GetLength() const { return _Negative + _Count + (_Precision > 0 ? 1 : 0); }
 
@@ -298,11 +306,6 @@ public:
     }
 
 private:
-    static double PowerOfTen(int iExponent)
-    {
-        return static_cast<double>(PowersOfTen[static_cast<std::size_t>(iExponent)]);
-    }
-
     // To the nearest integer, a half to the even one, whatever the rounding mode.
     static std::uint64_t Round(double iScaled)
     {
@@ -326,10 +329,11 @@ private:
         return iEnd;
     }
 
-    std::uint64_t _Digits;
+    std::uint64_t _Digits = 0;
     int _Precision;
     int _Count; // of all digits
     int _Negative;
+    bool _IsExact;
 };
 
 int PrecisionOf(const VORFormatParts& iParts)
@@ -347,8 +351,11 @@ std::to_chars_result Convert(char* oBegin, [[maybe_unused]] char* oEnd,
                              const VORFormatParts& iParts, double iValue)
 {
     const int precision = PrecisionOf(iParts);
-    if (iParts.conversion == 'f' && ScaledNumber::Fits(iValue, precision))
-        return {ScaledNumber(iValue, precision).Write(oBegin), std::errc()};
+    if (iParts.conversion == 'f' && precision <= ScaledNumber::LargestPrecision) {
+        const ScaledNumber number(iValue, precision);
+        if (number.IsExact())
+            return {number.Write(oBegin), std::errc()};
+    }
 #ifdef __cpp_lib_to_chars
     const auto style = iParts.conversion == 'f'   ? std::chars_format::fixed
                        : iParts.conversion == 'e' ? std::chars_format::scientific
@@ -418,28 +425,32 @@ int VORIntFormat::Write(long long iValue, char* oText, std::size_t iSize) const
 VORFloatFormat::VORFloatFormat(const char* iFormat)
     : VORNumberFormat(iFormat, VORDefaultFloatFormat, FloatConversions),
       _IsPlainFixed(_Parts.conversion == 'f' && !_Parts.alternate && !_Parts.plus &&
-                    _Parts.width < 0 && _Parts.before == 0 && _Parts.after == _Text.size())
+                    _Parts.width < 0 && PrecisionOf(_Parts) <= ScaledNumber::LargestPrecision &&
+                    _Parts.before == 0 && _Parts.after == _Text.size()),
+      _HasPoint(_Parts.conversion && IsOneOf(_Parts.conversion, "fFeE") && _Parts.precision != 0)
 {
-}
-
-bool VORFloatFormat::IsScaled(double iValue) const
-{
-    return _IsPlainFixed && ScaledNumber::Fits(iValue, PrecisionOf(_Parts));
 }
 
 int VORFloatFormat::Write(double iValue, char* oText, std::size_t iSize) const
 {
-    if (iSize < ScaledNumber::LongestText || !IsScaled(iValue))
-        return ::Write(_Text.c_str(), _Parts, iValue, oText, iSize);
-    char* const end = ScaledNumber(iValue, PrecisionOf(_Parts)).Write(oText);
-    *end = '\0';
-    return static_cast<int>(end - oText);
+    if (_IsPlainFixed && iSize >= ScaledNumber::LongestText) {
+        const ScaledNumber number(iValue, PrecisionOf(_Parts));
+        if (number.IsExact()) {
+            *number.Write(oText) = '\0';
+            return number.GetLength();
+        }
+    }
+    return ::Write(_Text.c_str(), _Parts, iValue, oText, iSize);
 }
 
 int VORFloatFormat::GetLength(double iValue) const
 {
-    return IsScaled(iValue) ? ScaledNumber(iValue, PrecisionOf(_Parts)).GetLength()
-                            : Write(iValue, nullptr, 0);
+    if (_IsPlainFixed) {
+        const ScaledNumber number(iValue, PrecisionOf(_Parts));
+        if (number.IsExact())
+            return number.GetLength();
+    }
+    return ::Write(_Text.c_str(), _Parts, iValue, nullptr, 0);
 }
 
 int VORFormatInt(int iValue, const char* iFormat, char* oText, std::size_t iSize)

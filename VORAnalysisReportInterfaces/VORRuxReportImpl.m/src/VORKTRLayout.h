@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
+#include <string>
 
 #include "VORUnicodeString.h"
 
@@ -20,11 +20,9 @@ inline VORUnicodeString Repeat(char iChar, int iCount)
 }
 
 /// Appends blanks; none when the count is not positive.
-inline void AppendBlanks(VORUnicodeString& ioText, int iCount)
+inline void AppendBlanks(std::string& ioText, int iCount)
 {
-    constexpr std::string_view blanks = "                                ";
-    for (; iCount > 0; iCount -= static_cast<int>(blanks.size()))
-        ioText.AppendBytes(blanks.substr(0, static_cast<std::size_t>(iCount)));
+    ioText.append(static_cast<std::size_t>(std::max(iCount, 0)), ' ');
 }
 
 /// Blanks on the left of what is iWidth wide, to centre it on the page; 0 when it does not fit.

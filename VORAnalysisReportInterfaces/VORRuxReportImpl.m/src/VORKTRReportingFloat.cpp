@@ -34,7 +34,9 @@ int Build(double iValue, const VORFloatFormat& iFormat, char* oText)
     oText[0] = ' ';
     const int number = iFormat.Write(iValue, oText + blank, Size - blank);
     std::size_t length = blank + static_cast<std::size_t>(number);
-    return length < Size && PutSeparator(oText, length) ? static_cast<int>(length) : 0;
+    if (length >= Size || (!iFormat.HasPoint(iValue) && !PutSeparator(oText, length)))
+        return 0;
+    return static_cast<int>(length);
 }
 
 /// The text of a float, made on the stack.
@@ -76,6 +78,16 @@ int VORKTRReportingFloat::WriteText(double iValue, const VORFloatFormat& iFormat
 
 VORKTRReportingFloat::~VORKTRReportingFloat() = default;
 
+int VORKTRReportingFloat::GetTextLength(float iValue, const VORFloatFormat& iFormat)
+{
+    if (iFormat.HasPoint(iValue)) {
+        const int length = iFormat.GetLength(iValue) + (0.0f <= iValue ? 1 : 0);
+        if (length < static_cast<int>(Size))
+            return length;
+    }
+    return static_cast<int>(FloatText(iValue, iFormat).Get().size());
+}
+
 char* VORKTRReportingFloat::ConvertToChar() const
 {
     const FloatText text(_Value, _Format);
@@ -108,7 +120,7 @@ void VORKTRReportingFloat::ASCIIReport(VORUnicodeString& ioText) const
 
 int VORKTRReportingFloat::GetWidthInChar() const
 {
-    return static_cast<int>(FloatText(_Value, _Format).Get().size());
+    return GetTextLength(_Value, _Format);
 }
 
 void VORKTRReportingFloat::Report_in_List(unsigned int iFile, const char*, unsigned char,

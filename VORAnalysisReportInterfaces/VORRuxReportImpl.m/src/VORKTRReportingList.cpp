@@ -151,33 +151,36 @@ void VORKTRReportingList::ASCIIReport_generic(VORUnicodeString& out, unsigned ch
     int valueWidth = 0;
     int unitWidth = 0;
     GetColsWidth(labelWidth, valueWidth, unitWidth);
+    std::string text;
     for (int i = 0; i < _Lines.GetSize(); ++i) {
         const Line& line = _Lines[i];
         const std::string_view label = LabelOf(line);
-        out.AppendBytes(inTable ? "" : "  ").AppendBytes(label);
-        AppendBlanks(out, labelWidth - CountChars(label) + 1);
-        out.AppendBytes(label.empty() ? " " : std::string_view(&_Separator, 1)).AppendBytes(" ");
+        text.append(inTable ? "" : "  ").append(label);
+        AppendBlanks(text, labelWidth - CountChars(label) + 1);
+        text.append(1, label.empty() ? ' ' : _Separator).append(1, ' ');
         if (!line.value.IsEmpty())
-            AppendValue(out, line, valueWidth, unitWidth);
-        out.AppendBytes("\n");
+            AppendValue(out, text, line, valueWidth, unitWidth);
+        text += '\n';
+        out.AppendBytes(text);
+        text.clear();
     }
 }
 
-// Without units values start right behind the separator.
-void VORKTRReportingList::AppendValue(VORUnicodeString& out, const Line& iLine, int iValueWidth,
-                                      int iUnitWidth) const
+// Without units values start right behind the separator. An item finds all that is ahead of it.
+void VORKTRReportingList::AppendValue(VORUnicodeString& out, std::string& ioText, const Line& iLine,
+                                      int iValueWidth, int iUnitWidth) const
 {
     if (iUnitWidth > 0)
-        AppendBlanks(out, iValueWidth - iLine.value.GetWidthInChar());
+        AppendBlanks(ioText, iValueWidth - iLine.value.GetWidthInChar());
     if (iLine.value.IsItem()) {
+        out.AppendBytes(ioText);
+        ioText.clear();
         iLine.value.GetItem().ASCIIReport_in_Table(out);
     } else {
-        std::string text;
-        iLine.value.AppendText(text);
-        out.AppendBytes(text);
+        iLine.value.AppendText(ioText);
     }
     if (iUnitWidth > 0)
-        out.AppendBytes(" ").AppendBytes(UnitOf(iLine));
+        ioText.append(1, ' ').append(UnitOf(iLine));
 }
 
 int VORKTRReportingList::GetWidthInChar() const

@@ -5,6 +5,7 @@
 #include <numeric>
 #include <string>
 #include <string_view>
+#include <typeinfo>
 #include <utility>
 
 #include "VORKTRCell.h"
@@ -59,8 +60,10 @@ VORUnicodeString IndentOfNotCentered(int iWidth)
 class CellLines
 {
 public:
-    CellLines(const std::string& iTexts, std::size_t iBegin, std::size_t iEnd)
-        : _Next(iBegin), _End(iEnd)
+    CellLines(std::size_t iBegin, std::size_t iEnd) : _Next(iBegin), _End(iEnd) {}
+
+    /// Before the lines are asked for, unless the text is one line without an end.
+    void CountLines(const std::string& iTexts)
     {
         if (_Next != _End && iTexts[_End - 1] == '\n')
             --_End; // a final line feed begins no line
@@ -92,8 +95,8 @@ public:
 private:
     std::size_t _Next;
     std::size_t _End;
-    int _Height;
-    int _Left; // lines that were not taken
+    int _Height = 1;
+    int _Left = 1; // lines that were not taken
     int _EmptyAbove = 0;
 };
 
@@ -107,11 +110,10 @@ char* PutBlanks(char* iAt, int iCount)
     return std::fill_n(iAt, std::max(iCount, 0), ' ');
 }
 
-// The odd blank goes to the left.
-char* PutCentered(char* iAt, std::string_view iLine, int iWidth)
+// With one for each separator and edge.
+int WidthOf(const std::vector<int>& iColumns)
 {
-    const int room = iWidth - CountChars(iLine);
-    return PutBlanks(Put(PutBlanks(iAt, (room + 1) / 2), iLine), room / 2);
+    return std::accumulate(iColumns.begin(), iColumns.end(), static_cast<int>(iColumns.size()) + 1);
 }
 
 } // namespace
@@ -123,22 +125,27 @@ public:
     RowWriter(const VORKTRReportingTable& iTable, const VORUnicodeString& iIndent,
               const VORUnicodeString& iPadLeft, const VORUnicodeString& iPadRight,
               const int* iWidths)
-        : _Table(iTable), _Indent(BytesOf(iIndent)), _PadLeft(BytesOf(iPadLeft)),
-          _PadRight(BytesOf(iPadRight)), _Widths(iWidths), _LongestLine(_Indent.size() + 2)
+        : _Table(iTable), _Widths(iWidths), _Behind(static_cast<std::size_t>(iTable._ColumnNb))
     {
-        for (int column = 0; column < _Table._ColumnNb; ++column)
-            _LongestLine += _PadLeft.size() + _PadRight.size() + 1 +
-                            static_cast<std::size_t>(std::max(_Widths[column], 0));
+        _Ahead.append(BytesOf(iIndent)).append(1, _Table.EdgeChar()).append(BytesOf(iPadLeft));
+        _LongestLine = _Ahead.size();
+        _Cells.reserve(_Behind.size());
+        for (int column = 0; column < _Table._ColumnNb; ++column) {
+            std::string& behind = _Behind[static_cast<std::size_t>(column)];
+            behind.append(BytesOf(iPadRight)).append(1, _Table.SeparatorBehind(column));
+            if (column == _Table._ColumnNb - 1)
+                behind += '\n';
+            else
+                behind.append(BytesOf(iPadLeft));
+            _LongestLine += behind.size() + static_cast<std::size_t>(std::max(_Widths[column], 0));
+        }
     }
 
     void Write(VORUnicodeString& oText, int iRow)
     {
         ReadTexts(iRow);
-        int height = 1;
-        for (const CellLines& cell : _Cells)
-            height = std::max(height, cell.GetHeight());
-        for (CellLines& cell : _Cells)
-            cell.CenterIn(height);
+        const int height = CutTexts();
+        _IsAscii = CountChars(_Texts) == static_cast<int>(_Texts.size());
         _Lines.resize(static_cast<std::size_t>(height) * _LongestLine + _Texts.size());
         char* end = _Lines.data();
         for (int line = 0; line < height; ++line)
@@ -162,34 +169,52 @@ private:
             } else if (!cell.IsEmpty()) {
                 cell.AppendText(_Texts);
             }
-            _Cells.emplace_back(_Texts, begin, _Texts.size());
+            _Cells.emplace_back(begin, _Texts.size());
         }
     }
 
+    // Returns the height of the row.
+    int CutTexts()
+    {
+        if (_Texts.find('\n') == std::string::npos)
+            return 1;
+        int height = 1;
+        for (CellLines& cell : _Cells) {
+            cell.CountLines(_Texts);
+            height = std::max(height, cell.GetHeight());
+        }
+        for (CellLines& cell : _Cells)
+            cell.CenterIn(height);
+        return height;
+    }
+
+    // There is room for the longest line, and for a text that is longer than its column.
     char* PutLine(char* iAt)
     {
-        iAt = Put(iAt, _Indent);
-        *iAt++ = _Table.EdgeChar();
-        for (int column = 0; column < _Table._ColumnNb; ++column) {
-            CellLines& cell = _Cells[static_cast<std::size_t>(column)];
-            iAt = Put(iAt, _PadLeft);
-            iAt = PutCentered(iAt, cell.TakeLine(_Texts), _Widths[column]);
-            iAt = Put(iAt, _PadRight);
-            *iAt++ = _Table.SeparatorBehind(column);
+        iAt = Put(iAt, _Ahead);
+        for (std::size_t column = 0; column < _Cells.size(); ++column) {
+            iAt = PutCentered(iAt, _Cells[column].TakeLine(_Texts), _Widths[column]);
+            iAt = Put(iAt, _Behind[column]);
         }
-        *iAt++ = '\n';
         return iAt;
     }
 
+    // The odd blank goes to the left.
+    char* PutCentered(char* iAt, std::string_view iLine, int iWidth) const
+    {
+        const int room = iWidth - (_IsAscii ? static_cast<int>(iLine.size()) : CountChars(iLine));
+        return PutBlanks(Put(PutBlanks(iAt, (room + 1) / 2), iLine), room / 2);
+    }
+
     const VORKTRReportingTable& _Table;
-    std::string_view _Indent;
-    std::string_view _PadLeft;
-    std::string_view _PadRight;
     const int* _Widths;
-    std::size_t _LongestLine; // but for the texts
-    std::string _Texts;       // of a row's cells
+    std::string _Ahead;               // what stands ahead of the first cell
+    std::vector<std::string> _Behind; // and behind each
+    std::size_t _LongestLine;         // but for the texts
+    std::string _Texts;               // of a row's cells
     std::vector<CellLines> _Cells;
     std::string _Lines;
+    bool _IsAscii = true;
 };
 
 VORKTRReportingTable::VORKTRReportingTable(unsigned long style) : _Style(style) {}
@@ -204,6 +229,7 @@ int VORKTRReportingTable::SetNew(int iRow, int iColumn, const Arguments&... iArg
     Reallocate(iRow, iColumn);
     CellAt(iRow, iColumn) = VORKTRValue();
     CellAt(iRow, iColumn) = _Values.Make(iArguments...);
+    _HoldsItems |= CellAt(iRow, iColumn).IsItem();
     return VOR_S_OK;
 }
 
@@ -234,6 +260,7 @@ int VORKTRReportingTable::SetObj(int row, int col, VORKTRReportingObj* item)
     VORKTRValue cell{std::unique_ptr<VORKTRReportingObj>(item)};
     Reallocate(row, col);
     CellAt(row, col) = std::move(cell);
+    _HoldsItems = true;
     return VOR_S_OK;
 }
 
@@ -336,8 +363,14 @@ int* VORKTRReportingTable::GetColsWidth() const
 
 int VORKTRReportingTable::GetWidthInChar() const
 {
-    const std::vector<int> widths = MeasureColumns();
-    return std::accumulate(widths.begin(), widths.end(), _ColumnNb + 1);
+    return WidthOf(MeasureColumns());
+}
+
+// True where nobody can tell that GetWidthInChar is not asked: neither an item nor a class of an
+// application's own.
+bool VORKTRReportingTable::IsMeasuredOnce() const
+{
+    return !_HoldsItems && typeid(*this) == typeid(VORKTRReportingTable);
 }
 
 void VORKTRReportingTable::ASCIIReport(VORUnicodeString& ioText) const
@@ -355,13 +388,14 @@ void VORKTRReportingTable::ASCIIReport_generic(VORUnicodeString& out, unsigned c
     if (_RowNb == 0 || _ColumnNb == 0)
         return;
     const std::vector<int> widths = MeasureColumns();
-    const int width = GetWidthInChar();
+    const int width = IsMeasuredOnce() ? WidthOf(widths) : GetWidthInChar();
     Placement place = inTable ? Placement{width, "", "", ""} : PlaceOnPage(width, _ColumnNb);
     if (_Style & VORKTRTableNotCentered)
         place.indent = IndentOfNotCentered(place.width);
-    const VORUnicodeString rule = place.indent + Repeat('*', place.width) + "\n";
+    VORUnicodeString rule;
     if (_Style & Framed)
-        out.Append(rule);
+        rule = place.indent + Repeat('*', place.width) + "\n";
+    out.Append(rule);
     RowWriter rows(*this, place.indent, place.padLeft, place.padRight, widths.data());
     for (int row = 0; row < _RowNb; ++row) {
         rows.Write(out, row);

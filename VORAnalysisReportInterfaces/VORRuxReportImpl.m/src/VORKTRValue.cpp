@@ -72,10 +72,8 @@ int VORKTRValue::GetWidthInChar() const
     switch (GetKind()) {
     case Kind::Int:
         return static_cast<int>(IntText(GetInt(), GetIntFormat()).Get().size());
-    case Kind::Float: {
-        char text[VORKTRReportingFloat::TextSize];
-        return VORKTRReportingFloat::WriteText(GetFloat(), GetFloatFormat(), text);
-    }
+    case Kind::Float:
+        return VORKTRReportingFloat::GetTextLength(GetFloat(), GetFloatFormat());
     case Kind::Text:
         return WidthOfText(GetText());
     default:

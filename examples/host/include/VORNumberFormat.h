@@ -36,6 +36,8 @@ public:
     {
         return VORFormatFloat(iValue, _Text.c_str(), oText, iSize);
     }
+    int GetLength(double iValue) const { return Write(iValue, nullptr, 0); }
+    bool HasPoint(double) const { return false; }
 
 private:
     std::string _Text;
