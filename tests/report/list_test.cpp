@@ -1,5 +1,3 @@
-#include <cstddef>
-#include <cstdlib>
 #include <new>
 #include <string>
 #include <tuple>
@@ -10,36 +8,8 @@
 #include "ReportTest.h"
 #include "VORKTRReportingList.h"
 #include "VORKTRReportingTable.h"
+#include "support/FailingMemory.h"
 #include "support/Rendering.h"
-
-namespace
-{
-
-constexpr std::size_t None = ~std::size_t{0};
-constexpr std::size_t Any = None - 1;
-std::size_t FailingSize = None; // the next allocation of this size fails
-
-} // namespace
-
-void* operator new(std::size_t iSize)
-{
-    const bool isFailing = iSize == FailingSize || FailingSize == Any;
-    void* const memory = isFailing ? nullptr : std::malloc(iSize);
-    if (memory)
-        return memory;
-    FailingSize = None;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* ioMemory) noexcept
-{
-    std::free(ioMemory);
-}
-
-void operator delete(void* ioMemory, std::size_t) noexcept
-{
-    std::free(ioMemory);
-}
 
 namespace
 {
@@ -47,9 +17,10 @@ namespace
 template <typename Action>
 void ExpectSuccessWithoutMemory(Action iAction)
 {
-    FailingSize = Any;
+    FailingMemory::FailAt(1);
     EXPECT_EQ(iAction(), 0);
-    EXPECT_EQ(FailingSize, None) << "there was memory";
+    EXPECT_GT(FailingMemory::GetCount(), 0) << "no memory was asked for";
+    FailingMemory::FailAt(0);
 }
 
 TEST(List, AlignsItsColumns)
@@ -124,9 +95,9 @@ TEST(Table, GridWithoutMemoryKeepsItsSize)
     VORKTRReportingTable table(0x08);
     table.SetText(0, 0, "a");
     for (const auto& [row, column] : {std::pair(0, 99), std::pair(49, 1)}) { // 100 cells
-        FailingSize = 100 * sizeof(VORKTRValue);
+        FailingMemory::FailAtSize(100 * sizeof(VORKTRValue));
         EXPECT_THROW(table.SetObj(row, column, new Probe), std::bad_alloc);
-        FailingSize = 100 * sizeof(VORKTRValue);
+        FailingMemory::FailAtSize(100 * sizeof(VORKTRValue));
         EXPECT_THROW(table.SetText(row, column, "b"), std::bad_alloc);
         EXPECT_EQ(std::pair(table.GetRowNumber(), table.GetColumnNumber()), std::pair(1, 1));
         EXPECT_EQ(CellTextOf(table), "***\n*a*\n***\n");

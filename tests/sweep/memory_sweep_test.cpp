@@ -8,72 +8,7 @@
 
 #include "Program.h"
 #include "support/ExpectedSite.h"
-
-namespace
-{
-
-// The allocations of the process, as long as they are counted.
-bool IsCounting = false;
-int Count = 0;
-int Failing = 0; // the allocation that fails; 0 for none
-bool IsForGood = false;
-int Living = 0; // allocated and not yet freed, counted or not
-
-void* Allocate(std::size_t iSize)
-{
-    if (IsCounting && ++Count >= Failing && Failing > 0 && (IsForGood || Count == Failing))
-        return nullptr;
-    ++Living;
-    return std::malloc(iSize > 0 ? iSize : 1);
-}
-
-void* AllocateOrThrow(std::size_t iSize)
-{
-    if (void* const place = Allocate(iSize))
-        return place;
-    throw std::bad_alloc();
-}
-
-void Free(void* iPlace)
-{
-    Living -= iPlace ? 1 : 0;
-    std::free(iPlace);
-}
-
-} // namespace
-
-void* operator new(std::size_t iSize)
-{
-    return AllocateOrThrow(iSize);
-}
-void* operator new[](std::size_t iSize)
-{
-    return AllocateOrThrow(iSize);
-}
-void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept
-{
-    return Allocate(iSize);
-}
-void* operator new[](std::size_t iSize, const std::nothrow_t&) noexcept
-{
-    return Allocate(iSize);
-}
-void operator delete(void* iPlace) noexcept
-{
-    Free(iPlace);
-}
-void operator delete[](void* iPlace) noexcept
-{
-    Free(iPlace);
-}
-void operator delete(void* iPlace, std::size_t) noexcept
-{
-    Free(iPlace);
-}
-void operator delete[](void* iPlace, std::size_t) noexcept
-{
-    Free(iPlace);
-}
+#include "support/FailingMemory.h"
 
 namespace
 {
@@ -91,7 +26,8 @@ int CountDescriptors()
 /// Allocations of one run.
 struct Allocations {
     int filled = INT_MAX; ///< Until all items were made.
-    int left = 0;         ///< Not freed.
+    int all = 0;
+    int left = 0; ///< Not freed.
 };
 
 Outcome RunProgram(int iAllocation, bool iForGood, Allocations& oAllocations)
@@ -107,31 +43,29 @@ Outcome RunProgram(int iAllocation, bool iForGood, Allocations& oAllocations)
     oAllocations.filled = INT_MAX;
     int read = 0; // allocated by the test itself
     const auto readTo = [&](Files& oFiles) {
-        const int before = Living;
+        const int before = FailingMemory::GetLiving();
         oFiles = ReadTree(path);
-        read += Living - before;
+        read += FailingMemory::GetLiving() - before;
     };
     const int descriptors = CountDescriptors();
-    const int living = Living;
-    Count = 0;
-    Failing = iAllocation;
-    IsForGood = iForGood;
-    IsCounting = true;
+    const int living = FailingMemory::GetLiving();
+    FailingMemory::FailAt(iAllocation, iForGood);
     std::unique_ptr<Program> program;
     try {
         program = std::make_unique<Program>(path);
-        oAllocations.filled = Count;
+        oAllocations.filled = FailingMemory::GetCount();
         outcome.isWhole = program->Write();
         outcome.text = program->text.ConvertToChar();
     } catch (const std::bad_alloc&) {
     }
-    IsCounting = false;
+    oAllocations.all = FailingMemory::GetCount();
+    FailingMemory::FailAt(0);
     readTo(outcome.files);
     if (program)
         program->Rewrite();
     readTo(outcome.rewritten);
     program.reset();
-    oAllocations.left = Living - living - read;
+    oAllocations.left = FailingMemory::GetLiving() - living - read;
     EXPECT_EQ(CountDescriptors(), descriptors);
     return outcome;
 }
@@ -149,7 +83,7 @@ TEST_P(MemorySweep, NoFailureIsSilentOrHarmful)
     RunProgram(0, false, run); // the process makes some things once
     const Outcome right = RunProgram(0, false, run);
     ASSERT_TRUE(right.isWhole);
-    const int allocations = Count;
+    const int allocations = run.all;
     int seen = 0;
     int allocation = 0;
     do {
@@ -160,7 +94,7 @@ TEST_P(MemorySweep, NoFailureIsSilentOrHarmful)
         // A cell or a list's value without memory is left empty.
         outcome.isWhole = outcome.isWhole && allocation > run.filled;
         ExpectWholeOrHarmless(outcome, right);
-    } while (allocation <= Count);
+    } while (allocation <= run.all);
     EXPECT_GE(allocation, allocations);
     EXPECT_GT(seen, allocations * 9 / 10);
 }

@@ -1,0 +1,104 @@
+#include "FailingMemory.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace
+{
+
+constexpr std::size_t None = ~std::size_t{0};
+std::atomic<int> Count{0};
+std::atomic<int> Living{0};
+int Failing = 0;
+bool IsForGood = false;
+std::size_t FailingSize = None;
+
+bool IsRefused(std::size_t iSize)
+{
+    const int number = ++Count;
+    if (iSize == FailingSize) {
+        FailingSize = None;
+        return true;
+    }
+    return Failing > 0 && (number == Failing || (IsForGood && number > Failing));
+}
+
+void* Allocate(std::size_t iSize)
+{
+    if (IsRefused(iSize))
+        return nullptr;
+    ++Living;
+    return std::malloc(iSize > 0 ? iSize : 1);
+}
+
+void* AllocateOrThrow(std::size_t iSize)
+{
+    if (void* const place = Allocate(iSize))
+        return place;
+    throw std::bad_alloc();
+}
+
+void Free(void* iPlace)
+{
+    Living -= iPlace ? 1 : 0;
+    std::free(iPlace);
+}
+
+} // namespace
+
+void FailingMemory::FailAt(int iAllocation, bool iForGood)
+{
+    Count = 0;
+    Failing = iAllocation;
+    ::IsForGood = iForGood;
+}
+
+void FailingMemory::FailAtSize(std::size_t iSize)
+{
+    FailingSize = iSize;
+}
+
+int FailingMemory::GetCount()
+{
+    return Count;
+}
+
+int FailingMemory::GetLiving()
+{
+    return Living;
+}
+
+// All forms: sanitizers have their own of each that is left out.
+void* operator new(std::size_t iSize)
+{
+    return AllocateOrThrow(iSize);
+}
+void* operator new[](std::size_t iSize)
+{
+    return AllocateOrThrow(iSize);
+}
+void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept
+{
+    return Allocate(iSize);
+}
+void* operator new[](std::size_t iSize, const std::nothrow_t&) noexcept
+{
+    return Allocate(iSize);
+}
+void operator delete(void* iPlace) noexcept
+{
+    Free(iPlace);
+}
+void operator delete[](void* iPlace) noexcept
+{
+    Free(iPlace);
+}
+void operator delete(void* iPlace, std::size_t) noexcept
+{
+    Free(iPlace);
+}
+void operator delete[](void* iPlace, std::size_t) noexcept
+{
+    Free(iPlace);
+}
