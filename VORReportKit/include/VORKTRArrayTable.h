@@ -21,19 +21,12 @@ public:
     VORKTRArrayTable(unsigned long iStyle, int iRows);
 
     /// @{ Adds a column over iValues, one for each row and iStride bytes apart: a member of an
-    /// array of structures has their size. Heading and unit are texts, the unit below the heading;
-    /// both may be empty. The format is printf's. Returns 0, or 0x80070057 when iValues is null.
+    /// array of structures has their size. A number is a float, double, int, long or long long,
+    /// shown in a printf format. Heading and unit are texts, the unit below the heading; both may
+    /// be empty. Returns 0, or 0x80070057 when iValues is null.
+    template <typename Number>
     int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                  const float* iValues, const char* iFormat, std::size_t iStride = sizeof(float));
-    int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                  const double* iValues, const char* iFormat, std::size_t iStride = sizeof(double));
-    int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                  const int* iValues, const char* iFormat, std::size_t iStride = sizeof(int));
-    int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                  const long* iValues, const char* iFormat, std::size_t iStride = sizeof(long));
-    int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                  const long long* iValues, const char* iFormat,
-                  std::size_t iStride = sizeof(long long));
+                  const Number* iValues, const char* iFormat, std::size_t iStride = sizeof(Number));
     int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
                   const std::string* iTexts, std::size_t iStride = sizeof(std::string));
     int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
@@ -53,19 +46,20 @@ public:
     void ASCIIReport_in_Table(VORUnicodeString& ioText) const override;
 
 private:
-    using AppendCell = std::function<void(std::string& ioText, int iRow)>;
+    /// Appends the text of a row to ioText; without one returns its width.
+    using Cell = std::function<int(std::string* ioText, int iRow)>;
 
     struct Column {
         VORUnicodeString heading;
-        AppendCell appendCell; // for a row of the arrays
-        bool isRight;          // right-aligned on the page, else centred
-        bool isText;           // escaped on the page; else a number
+        Cell cell;
+        bool isRight; // right-aligned on the page, else centred
+        bool isText;  // escaped on the page; else a number
     };
 
-    int Add(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit, bool iIsRight,
-            bool iIsText, AppendCell iAppendCell);
+    template <typename Text>
+    int AddTexts(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
+                 const Text* iTexts, std::size_t iStride);
     int GetFirstRow() const;
-    std::string GetText(const Column& iColumn, int iRow) const;
     void AppendHtmlRow(std::string& ioHtml, int iRow, bool iIsHeader) const;
     std::vector<int> GetWidths() const;
     void AppendTable(VORUnicodeString& ioText, bool iIsInTable) const;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 #include <string_view>
-#include <utility>
+#include <type_traits>
 
 #include "VORKTRKitPieces.h"
 #include "VORKTRReportingFloat.h"
@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr std::size_t BlockSize = 65536; // what is gathered before it is handed on
+constexpr std::size_t LongRow = 4096;    // what a row may add to that
 constexpr unsigned long Edged = VORKTRTableHeaderRow | VORKTRTableLastRow | VORKTRTableHeaderColumn;
 constexpr unsigned long Framed = Edged | VORKTRTableRuled;
 
@@ -24,13 +25,33 @@ const Value& At(const Value* iValues, std::size_t iStride, int iRow)
     return *reinterpret_cast<const Value*>(bytes + static_cast<std::size_t>(iRow) * iStride);
 }
 
-/// Numbers that Format takes as Wide.
-template <typename Format, typename Wide, typename Number>
-auto Numbers(const Number* iValues, const char* iFormat, std::size_t iStride)
+/// What gives a number a text: a float as VORKTRReportingFloat does, others as their format says.
+struct FloatText {
+    VORFloatFormat format;
+
+    int GetLength(float iValue) const
+    {
+        return VORKTRReportingFloat::GetTextLength(iValue, format);
+    }
+    int Write(float iValue, char* oText, std::size_t) const
+    {
+        return VORKTRReportingFloat::WriteText(iValue, format, oText);
+    }
+};
+
+std::string_view ViewOf(const std::string& iText)
 {
-    return [=, format = Format(iFormat)](std::string& ioText, int iRow) {
-        AppendNumber(ioText, format, static_cast<Wide>(At(iValues, iStride, iRow)));
-    };
+    return iText;
+}
+
+std::string_view ViewOf(const VORUnicodeString& iText)
+{
+    return iText.GetView();
+}
+
+VORUnicodeString Heading(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit)
+{
+    return iUnit == "" ? iHeading : iHeading + "\n" + iUnit;
 }
 
 /// The text of a cell, given out line by line for its place in a row. It serves the cells of a
@@ -150,75 +171,72 @@ VORKTRArrayTable::VORKTRArrayTable(unsigned long iStyle, int iRows)
 {
 }
 
-int VORKTRArrayTable::Add(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                          bool iIsRight, bool iIsText, AppendCell iAppendCell)
+template <typename Number>
+int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
+                                const Number* iValues, const char* iFormat, std::size_t iStride)
 {
-    const VORUnicodeString heading = iUnit == "" ? iHeading : iHeading + "\n" + iUnit;
-    _Columns.push_back({heading, std::move(iAppendCell), iIsRight, iIsText});
+    constexpr bool isInt = std::is_same_v<Number, int>;
+    using Whole = std::conditional_t<isInt, int, long long>;
+    using Wide = std::conditional_t<std::is_integral_v<Number>, Whole, Number>;
+    using Other = std::conditional_t<std::is_integral_v<Number>, VORIntFormat, VORFloatFormat>;
+    using Text = std::conditional_t<std::is_same_v<Number, float>, FloatText, Other>;
+    if (!iValues)
+        return VOR_E_INVALIDARG;
+    const auto cell = [=, text = Text{Other(iFormat)}](std::string* ioText, int iRow) {
+        const auto value = static_cast<Wide>(At(iValues, iStride, iRow));
+        return ioText ? AppendNumber(*ioText, text, value) : text.GetLength(value);
+    };
+    _Columns.push_back({Heading(iHeading, iUnit), cell, !isInt, false});
     return VOR_S_OK;
 }
 
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const float* iValues, const char* iFormat, std::size_t iStride)
+template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
+                                         const float*, const char*, std::size_t);
+template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
+                                         const double*, const char*, std::size_t);
+template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
+                                         const int*, const char*, std::size_t);
+template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
+                                         const long*, const char*, std::size_t);
+template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
+                                         const long long*, const char*, std::size_t);
+
+template <typename Text>
+int VORKTRArrayTable::AddTexts(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
+                               const Text* iTexts, std::size_t iStride)
 {
-    const auto append = [=, format = VORFloatFormat(iFormat)](std::string& ioText, int iRow) {
-        char text[VORKTRReportingFloat::TextSize];
-        const float value = At(iValues, iStride, iRow);
-        const int length = VORKTRReportingFloat::WriteText(value, format, text);
-        ioText.append(text, static_cast<std::size_t>(length));
+    if (!iTexts)
+        return VOR_E_INVALIDARG;
+    const auto cell = [=](std::string* ioText, int iRow) {
+        const std::string_view text = ViewOf(At(iTexts, iStride, iRow));
+        if (!ioText)
+            return WidestLine(text);
+        ioText->append(text);
+        return 0;
     };
-    return iValues ? Add(iHeading, iUnit, true, false, append) : VOR_E_INVALIDARG;
-}
-
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const double* iValues, const char* iFormat, std::size_t iStride)
-{
-    const auto append = Numbers<VORFloatFormat, double>(iValues, iFormat, iStride);
-    return iValues ? Add(iHeading, iUnit, true, false, append) : VOR_E_INVALIDARG;
-}
-
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const int* iValues, const char* iFormat, std::size_t iStride)
-{
-    const auto append = Numbers<VORIntFormat, int>(iValues, iFormat, iStride);
-    return iValues ? Add(iHeading, iUnit, false, false, append) : VOR_E_INVALIDARG;
-}
-
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const long* iValues, const char* iFormat, std::size_t iStride)
-{
-    const auto append = Numbers<VORIntFormat, long long>(iValues, iFormat, iStride);
-    return iValues ? Add(iHeading, iUnit, true, false, append) : VOR_E_INVALIDARG;
-}
-
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const long long* iValues, const char* iFormat, std::size_t iStride)
-{
-    const auto append = Numbers<VORIntFormat, long long>(iValues, iFormat, iStride);
-    return iValues ? Add(iHeading, iUnit, true, false, append) : VOR_E_INVALIDARG;
+    _Columns.push_back({Heading(iHeading, iUnit), cell, false, true});
+    return VOR_S_OK;
 }
 
 int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
                                 const std::string* iTexts, std::size_t iStride)
 {
-    const auto append = [=](std::string& ioText, int iRow) { ioText += At(iTexts, iStride, iRow); };
-    return iTexts ? Add(iHeading, iUnit, false, true, append) : VOR_E_INVALIDARG;
+    return AddTexts(iHeading, iUnit, iTexts, iStride);
 }
 
 int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
                                 const VORUnicodeString* iTexts, std::size_t iStride)
 {
-    const auto append = [=](std::string& ioText, int iRow) {
-        ioText += At(iTexts, iStride, iRow).GetView();
-    };
-    return iTexts ? Add(iHeading, iUnit, false, true, append) : VOR_E_INVALIDARG;
+    return AddTexts(iHeading, iUnit, iTexts, iStride);
 }
 
 void VORKTRArrayTable::AddIndexColumn(const VORUnicodeString& iHeading, int iFirst)
 {
-    Add(iHeading, "", false, false, [=](std::string& ioText, int iRow) {
-        ioText += std::to_string(static_cast<long long>(iFirst) + iRow);
-    });
+    const auto cell = [=, text = VORIntFormat("%d")](std::string* ioText, int iRow) {
+        const long long index = static_cast<long long>(iFirst) + iRow;
+        return ioText ? AppendNumber(*ioText, text, index) : text.GetLength(index);
+    };
+    _Columns.push_back({iHeading, cell, false, false});
 }
 
 int VORKTRArrayTable::SetRows(int iBegin, int iEnd)
@@ -244,7 +262,9 @@ void VORKTRArrayTable::Report(unsigned int iFile, const char*, unsigned char, un
     if (_Columns.empty() || first >= _End)
         return;
     const bool isCentered = !(_Style & VORKTRTableNotCentered);
-    std::string html = isCentered ? "<BR>\n<CENTER>\n" : "<P>\n\n";
+    std::string html;
+    html.reserve(BlockSize + LongRow);
+    html += isCentered ? "<BR>\n<CENTER>\n" : "<P>\n\n";
     html += _Style & VORKTRTableRuled ? "<TABLE BORDER=2 CELLPADDING=5>\n"
                                       : "<TABLE BORDER=0 CELLPADDING=5>\n";
     for (int row = first; row < _End; ++row) {
@@ -256,7 +276,8 @@ void VORKTRArrayTable::Report(unsigned int iFile, const char*, unsigned char, un
             html.clear();
         }
     }
-    WriteHtml(iFile, html + "</TABLE>\n" + (isCentered ? "</CENTER>\n" : "</P>\n"));
+    html += isCentered ? "</TABLE>\n</CENTER>\n" : "</TABLE>\n</P>\n";
+    WriteHtml(iFile, html);
 }
 
 void VORKTRArrayTable::AppendHtmlRow(std::string& ioHtml, int iRow, bool iIsHeader) const
@@ -267,22 +288,18 @@ void VORKTRArrayTable::AppendHtmlRow(std::string& ioHtml, int iRow, bool iIsHead
             iIsHeader || (&column == &_Columns.front() && (_Style & VORKTRTableHeaderColumn));
         const bool isHeading = iRow < _Begin;
         ioHtml += OpenCell(isHeader, column.isRight && !isHeading ? Right : Centred);
-        if (!isHeading && !column.isText)
-            column.appendCell(ioHtml, iRow);
-        else
-            ioHtml += Escaped(GetText(column, iRow));
+        if (isHeading) {
+            ioHtml += Escaped(column.heading.GetView());
+        } else if (column.isText) {
+            std::string text;
+            column.cell(&text, iRow);
+            ioHtml += Escaped(text);
+        } else {
+            column.cell(&ioHtml, iRow);
+        }
         ioHtml += CloseCell(isHeader);
     }
     ioHtml += "</TR>\n";
-}
-
-std::string VORKTRArrayTable::GetText(const Column& iColumn, int iRow) const
-{
-    if (iRow < _Begin)
-        return iColumn.heading.ToString();
-    std::string text;
-    iColumn.appendCell(text, iRow);
-    return text;
 }
 
 std::vector<int> VORKTRArrayTable::GetWidths() const
@@ -290,16 +307,10 @@ std::vector<int> VORKTRArrayTable::GetWidths() const
     std::vector<int> widths;
     if (GetFirstRow() >= _End)
         return widths;
-    std::string text;
     for (const Column& column : _Columns) {
-        int width = WidestLine(column.heading.GetView());
-        for (int row = _Begin; row < _End; ++row) {
-            text.clear();
-            column.appendCell(text, row);
-            const int length = column.isText ? WidestLine(text) : static_cast<int>(text.size());
-            width = std::max(width, length);
-        }
-        widths.push_back(width);
+        widths.push_back(WidestLine(column.heading.GetView()));
+        for (int row = _Begin; row < _End; ++row)
+            widths.back() = std::max(widths.back(), column.cell(nullptr, row));
     }
     return widths;
 }
@@ -326,13 +337,15 @@ void VORKTRArrayTable::AppendTable(VORUnicodeString& ioText, bool iIsInTable) co
     if (_Columns.empty() || first >= _End)
         return;
     TextRow line(GetWidths(), _Style, iIsInTable);
-    std::string text = _Style & Framed ? line.rule : "";
+    std::string text;
+    text.reserve(BlockSize + LongRow);
+    text += _Style & Framed ? line.rule : "";
     for (int row = first; row < _End; ++row) {
         for (std::size_t i = 0; i < _Columns.size(); ++i) {
             if (row < _Begin)
                 line.cells[i].Begin() = _Columns[i].heading.GetView();
             else
-                _Columns[i].appendCell(line.cells[i].Begin(), row);
+                _Columns[i].cell(&line.cells[i].Begin(), row);
         }
         line.AppendTo(text);
         if ((row == first && (_Style & VORKTRTableHeaderRow)) ||

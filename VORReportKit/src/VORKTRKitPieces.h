@@ -50,19 +50,21 @@ std::string JoinCentred(const std::vector<std::string>& iLines);
 /// Length of the longest line of a text in characters.
 int WidestLine(std::string_view iText);
 
-/// Appends a number in a format of VORNumberFormat.h.
+/// Appends a number in a format of VORNumberFormat.h or its like, and returns the length.
 template <typename Format, typename Number>
-void AppendNumber(std::string& ioText, const Format& iFormat, Number iNumber)
+int AppendNumber(std::string& ioText, const Format& iFormat, Number iNumber)
 {
     char text[64];
-    const auto length = static_cast<std::size_t>(iFormat.Write(iNumber, text, sizeof text));
-    if (length < sizeof text) {
-        ioText.append(text, length);
-        return;
+    const int length = iFormat.Write(iNumber, text, sizeof text);
+    const auto size = static_cast<std::size_t>(length);
+    if (size < sizeof text) {
+        ioText.append(text, size);
+        return length;
     }
-    std::string longText(length + 1, '\0');
+    std::string longText(size + 1, '\0');
     iFormat.Write(iNumber, longText.data(), longText.size());
-    ioText.append(longText, 0, length);
+    ioText.append(longText, 0, size);
+    return length;
 }
 
 #endif
