@@ -23,10 +23,6 @@ endfunction()
 function(vor_configure_library target)
     vor_configure_target(${target})
     vor_export_as_listed(${target} ${CMAKE_CURRENT_SOURCE_DIR}/exports.map)
-    get_target_property(type ${target} TYPE)
-    if(type STREQUAL STATIC_LIBRARY)
-        target_compile_definitions(${target} PUBLIC ${target}_STATIC)
-    endif()
     set_target_properties(${target} PROPERTIES
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
