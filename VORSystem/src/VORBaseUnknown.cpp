@@ -1,7 +1,8 @@
 #include "VORBaseUnknown.h"
 
-const GUID IID_IUnknown = {
-    0x1F0C44B6, 0x7A31, 0x4E0D, {0x9B, 0x52, 0x60, 0x3E, 0x8D, 0x17, 0xC2, 0x03}};
+// The value that it has wherever there is such a root: a library that has the name as well may come
+// first where a program is linked.
+const GUID IID_IUnknown = {0, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 const GUID IID_VORBaseUnknown = {
     0x1F0C44B6, 0x7A31, 0x4E0D, {0x9B, 0x52, 0x60, 0x3E, 0x8D, 0x17, 0xC2, 0x02}};
 

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <mutex>
 #include <new>
+#include <utility>
 
 namespace
 {
@@ -87,20 +88,10 @@ std::mutex Mutex; // guards what follows
 unsigned int HandleCount = 0;
 unsigned int SharedFree = 0;
 
-thread_local unsigned int OwnFree = 0;
-
 VOROutputFile& Place(unsigned int iHandle)
 {
     Chunk* const chunk = Chunks[(iHandle - 1) / ChunkSize].load(std::memory_order_acquire);
     return (*chunk)[(iHandle - 1) % ChunkSize];
-}
-
-unsigned int Pop(unsigned int& ioFirst)
-{
-    const unsigned int handle = ioFirst;
-    if (handle != 0)
-        ioFirst = Place(handle).nextFree;
-    return handle;
 }
 
 // A new handle; 0 when there are no more of them or no memory for their places.
@@ -115,16 +106,14 @@ unsigned int Add()
 }
 
 // Gives the free handles of a thread that ends to all others.
-struct ThreadEnd {
-    ~ThreadEnd()
-    {
-        const std::lock_guard<std::mutex> lock(Mutex);
-        while (const unsigned int handle = Pop(OwnFree)) {
-            Place(handle).nextFree = SharedFree;
-            SharedFree = handle;
-        }
+void GiveBack(unsigned int iFirst)
+{
+    const std::lock_guard<std::mutex> lock(Mutex);
+    for (unsigned int handle = iFirst, next = 0; handle != 0; handle = next) {
+        next = std::exchange(Place(handle).nextFree, SharedFree);
+        SharedFree = handle;
     }
-};
+}
 
 // Writes out what a program leaves open at its end.
 struct ProcessEnd {
@@ -140,20 +129,25 @@ const ProcessEnd CloseAll;
 
 } // namespace
 
+// The first of the handles that the calling thread has freed is its number.
 unsigned int VORFileTable::Take()
 {
-    if (const unsigned int own = Pop(OwnFree))
+    if (const unsigned int own = VORLayer::ThreadNumber()) {
+        VORLayer::SetThreadNumber(Place(own).nextFree, GiveBack);
         return own;
+    }
     const std::lock_guard<std::mutex> lock(Mutex);
-    const unsigned int shared = Pop(SharedFree);
-    return shared != 0 ? shared : Add();
+    const unsigned int shared = SharedFree;
+    if (shared == 0)
+        return Add();
+    SharedFree = Place(shared).nextFree;
+    return shared;
 }
 
 void VORFileTable::Free(unsigned int iHandle)
 {
-    thread_local const ThreadEnd end;
-    Place(iHandle).nextFree = OwnFree;
-    OwnFree = iHandle;
+    Place(iHandle).nextFree = VORLayer::ThreadNumber();
+    VORLayer::SetThreadNumber(iHandle, GiveBack);
 }
 
 VOROutputFile* VORFileTable::PlaceOf(unsigned int iHandle)

@@ -53,6 +53,12 @@ int RunCommand(const char* iCommand);
 unsigned long ProcessId();
 /// @}
 
+/// @{ A number of the calling thread's own, 0 at first. iAtEnd gets it when the thread ends and is
+/// the same function in every call.
+unsigned int ThreadNumber() noexcept;
+void SetThreadNumber(unsigned int iNumber, void (*iAtEnd)(unsigned int)) noexcept;
+/// @}
+
 /// What snprintf gives for one number, under the numeric locale "C" whatever is set. iConversion is
 /// a conversion of a double alone, without ' and length modifiers.
 int PrintNumber(char* oText, std::size_t iSize, const char* iConversion, double iNumber);

@@ -36,7 +36,6 @@ TEST(WindowsPath, UnderstandsBothSeparatorsAndWritesOne)
     VORDIR root;
     EXPECT_EQ(VOROpenDirectory("C:", &root), VOR_S_OK); // whatever directory the process has there
     EXPECT_EQ(VORCloseDirectory(&root), VOR_S_OK);
-    EXPECT_TRUE(VORIsSameEntry("C:", "C:\\.\\"));
 }
 
 TEST(WindowsFile, NamesAreUtf8OfAnyLengthAndCase)

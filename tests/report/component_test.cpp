@@ -84,11 +84,11 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     const char* const named = "BACKGROUND=\"missing.png\"";
     // The longest parts of a path that later pages name.
     const std::string dots = images + Repeat((256 - static_cast<int>(images.size())) / 2, "/.");
-    const std::string directory256 = std::string(256 - dots.size(), '/') + dots;
+    const std::string directory256 = dots + std::string(256 - dots.size(), '/');
     const std::string name256(256, 'n');
     const std::string longest = directory256 + "/" + name256;
     const std::string longName = longest + "n";
-    const std::string longDirectory = "/" + longest;
+    const std::string longDirectory = directory256 + "//" + name256;
     const std::string longNamed = "BACKGROUND=\"" + name256 + "\"";
     // In this order: the background copied last stays that of first pages.
     const struct {

@@ -81,30 +81,42 @@ private:
     HANDLE _Handle;
 };
 
-/// The entry itself where the name is that of a link.
-class LinkEntry : public Entry
+bool IsLink(const std::wstring& iPath)
 {
-public:
-    explicit LinkEntry(const char* iPath)
-        : Entry(SystemPath(iPath), NoAccess, FILE_FLAG_OPEN_REPARSE_POINT)
-    {
-    }
+    const Entry entry(iPath, NoAccess, FILE_FLAG_OPEN_REPARSE_POINT);
+    FILE_ATTRIBUTE_TAG_INFO information = {};
+    return GetFileInformationByHandleEx(entry.Get(), FileAttributeTagInfo, &information,
+                                        sizeof information) &&
+           IsReparseTagNameSurrogate(information.ReparseTag);
+}
 
-    bool IsLink() const
-    {
-        FILE_ATTRIBUTE_TAG_INFO information = {};
-        GetFileInformationByHandleEx(Get(), FileAttributeTagInfo, &information, sizeof information);
-        return IsReparseTagNameSurrogate(information.ReparseTag);
-    }
+bool IsSame(const std::wstring& iLeft, const std::wstring& iRight)
+{
+    const Entry left(iLeft, NoAccess);
+    const Entry right(iRight, NoAccess);
+    const BY_HANDLE_FILE_INFORMATION one = left.Information();
+    const BY_HANDLE_FILE_INFORMATION other = right.Information();
+    return left.IsThere() && right.IsThere() &&
+           one.dwVolumeSerialNumber == other.dwVolumeSerialNumber &&
+           one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow;
+}
 
-    // With all its directories as they are called themselves.
-    std::wstring Name() const
-    {
-        return TextOfCall([this](wchar_t* oText, DWORD iSize) {
-            return GetFinalPathNameByHandleW(Get(), oText, iSize, VOLUME_NAME_DOS);
-        });
-    }
-};
+std::wstring DirectoryOf(const std::wstring& iPath)
+{
+    return iPath.substr(0, iPath.rfind(L'\\') + 1);
+}
+
+// As the directory has it, by whatever case or short form it is called; empty when there is none.
+std::wstring NameInDirectory(const std::wstring& iPath)
+{
+    WIN32_FIND_DATAW entry = {};
+    if (iPath.find_first_of(L"*?", 4) != iPath.npos) // behind the beginning of a whole path
+        return std::wstring();
+    const HANDLE search = FindFirstFileW(iPath.c_str(), &entry);
+    if (search != INVALID_HANDLE_VALUE)
+        FindClose(search);
+    return entry.cFileName;
+}
 
 // Elsewhere a file that nobody may write can be deleted and replaced all the same: what counts is
 // the directory.
@@ -146,7 +158,9 @@ VORStatus OpenToRead(const char* iPath, File& oFile)
 
 VORStatus OpenToWrite(const char* iPath, File& oFile)
 {
-    return Open(iPath, GENERIC_WRITE, CREATE_ALWAYS, oFile);
+    const VORStatus status = Open(iPath, GENERIC_WRITE, CREATE_ALWAYS, oFile);
+    // A directory in its place is refused in the same way, but is a failure of another kind.
+    return status == VOR_E_ACCESS_DENIED && KindOf(iPath) == VORDirectory ? VOR_E_FAIL : status;
 }
 
 VORStatus Read(File iFile, void* oBytes, std::size_t iRoom, std::size_t& oLength) noexcept
@@ -203,31 +217,29 @@ VORStatus Rename(const char* iFrom, const char* iTo)
 
 VORFileKind KindOf(const char* iPath)
 {
-    const Entry file(SystemPath(iPath), NoAccess);
+    const std::wstring path = SystemPath(iPath);
+    const Entry file(path, NoAccess);
     if (!file.IsThere())
         return VORNoFile;
     if (!file.IsOnDisk())
         return VOROtherFile;
     if (file.IsDirectory())
         return VORDirectory;
-    return LinkEntry(iPath).IsLink() ? VORLinkToFile : VORRegularFile;
+    return IsLink(path) ? VORLinkToFile : VORRegularFile;
 }
 
 bool IsSameFile(const char* iLeft, const char* iRight)
 {
-    const Entry left(SystemPath(iLeft), NoAccess);
-    const Entry right(SystemPath(iRight), NoAccess);
-    const BY_HANDLE_FILE_INFORMATION one = left.Information();
-    const BY_HANDLE_FILE_INFORMATION other = right.Information();
-    return left.IsThere() && right.IsThere() &&
-           one.dwVolumeSerialNumber == other.dwVolumeSerialNumber &&
-           one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow;
+    return IsSame(SystemPath(iLeft), SystemPath(iRight));
 }
 
 bool IsSameEntry(const char* iLeft, const char* iRight)
 {
-    const std::wstring name = LinkEntry(iLeft).Name();
-    return !name.empty() && name == LinkEntry(iRight).Name();
+    const std::wstring left = SystemPath(iLeft);
+    const std::wstring right = SystemPath(iRight);
+    const std::wstring name = NameInDirectory(left);
+    return !name.empty() && name == NameInDirectory(right) &&
+           IsSame(DirectoryOf(left), DirectoryOf(right));
 }
 
 VORStatus CreateDirectory(const char* iPath)
