@@ -22,15 +22,15 @@ public:
 
     /// @{ Adds a column over iValues, one for each row and iStride bytes apart: a member of an
     /// array of structures has their size. A number is a float, double, int, long or long long,
-    /// shown in a printf format. Heading and unit are texts, the unit below the heading; both may
-    /// be empty. Returns 0, or 0x80070057 when iValues is null.
+    /// shown in a printf format; a text is a std::string or a VORUnicodeString. Heading and unit
+    /// are texts, the unit below the heading; both may be empty. Returns 0, or 0x80070057 when
+    /// iValues is null.
     template <typename Number>
     int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
                   const Number* iValues, const char* iFormat, std::size_t iStride = sizeof(Number));
+    template <typename Text>
     int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                  const std::string* iTexts, std::size_t iStride = sizeof(std::string));
-    int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                  const VORUnicodeString* iTexts, std::size_t iStride = sizeof(VORUnicodeString));
+                  const Text* iValues, std::size_t iStride = sizeof(Text));
     /// @}
     /// Adds a column of ints that counts the rows of the arrays, the first one as iFirst.
     void AddIndexColumn(const VORUnicodeString& iHeading, int iFirst = 1);
@@ -56,9 +56,6 @@ private:
         bool isText;  // escaped on the page; else a number
     };
 
-    template <typename Text>
-    int AddTexts(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                 const Text* iTexts, std::size_t iStride);
     int GetFirstRow() const;
     void AppendHtmlRow(std::string& ioHtml, int iRow, bool iIsHeader) const;
     std::vector<int> GetWidths() const;

@@ -202,13 +202,13 @@ template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnico
                                          const long long*, const char*, std::size_t);
 
 template <typename Text>
-int VORKTRArrayTable::AddTexts(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                               const Text* iTexts, std::size_t iStride)
+int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
+                                const Text* iValues, std::size_t iStride)
 {
-    if (!iTexts)
+    if (!iValues)
         return VOR_E_INVALIDARG;
     const auto cell = [=](std::string* ioText, int iRow) {
-        const std::string_view text = ViewOf(At(iTexts, iStride, iRow));
+        const std::string_view text = ViewOf(At(iValues, iStride, iRow));
         if (!ioText)
             return WidestLine(text);
         ioText->append(text);
@@ -218,17 +218,10 @@ int VORKTRArrayTable::AddTexts(const VORUnicodeString& iHeading, const VORUnicod
     return VOR_S_OK;
 }
 
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const std::string* iTexts, std::size_t iStride)
-{
-    return AddTexts(iHeading, iUnit, iTexts, iStride);
-}
-
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const VORUnicodeString* iTexts, std::size_t iStride)
-{
-    return AddTexts(iHeading, iUnit, iTexts, iStride);
-}
+template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
+                                         const std::string*, std::size_t);
+template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
+                                         const VORUnicodeString*, std::size_t);
 
 void VORKTRArrayTable::AddIndexColumn(const VORUnicodeString& iHeading, int iFirst)
 {

@@ -31,22 +31,16 @@ body {
 body, p, h1, h2, h3, h4, h5, h6 { text-align: left; overflow-wrap: break-word; }
 p { max-width: 44rem; margin: 0 0 .9rem; }
 p:empty, br:has(+ center) { display: none; }
+a, figure, .tablecaption { scroll-margin-top: 1rem; }
 a:link, a:visited { color: #0b5cad; text-underline-offset: .15em; }
 
 .maintitle, h1, h2, h3, h4, h5, h6 { max-width: none; color: var(--accent); line-height: 1.25; }
-.maintitle {
-  margin: 1.5rem 0 2rem;
-  padding-bottom: .6rem;
-  border-bottom: .2rem solid var(--accent);
-  font-size: 2.1rem;
-  font-weight: 650;
-}
+.maintitle { margin: 1.5rem 0 2rem; padding-bottom: .6rem; border-bottom: .2rem solid; font-size: 2.1rem; font-weight: 650; }
 h1 { margin: 2.2rem 0 1rem; padding-bottom: .3rem; border-bottom: 1px solid var(--line); font-size: 1.7rem; }
 h2 { margin: 2rem 0 .8rem; font-size: 1.35rem; }
 h3 { margin: 1.8rem 0 .6rem; font-size: 1.1rem; }
 h4, h5, h6 { margin: 1.4rem 0 .5rem; color: var(--ink); font-size: 1rem; }
-h5 { font-weight: 500; }
-h6 { color: var(--quiet); font-weight: 500; }
+h5, h6 { font-weight: 500; }
 
 /* Lists are tables without padding, the parts of a float in cells of their own. */
 table {
@@ -74,7 +68,6 @@ tr:first-child:has(> th + th) > th { position: sticky; z-index: 1; top: 0; verti
 
 figure { margin: 1.4rem 0; text-align: center; }
 img, embed, video { max-width: 100%; height: auto; }
-embed { min-height: 2rem; }
 figcaption, .tablecaption, center > center { color: var(--quiet); font-size: .9375rem; }
 figcaption { max-width: 44rem; margin: .4rem auto 0; }
 .tablecaption { max-width: 44rem; margin: 1.6rem auto .4rem; }

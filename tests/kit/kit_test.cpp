@@ -115,6 +115,9 @@ TEST_F(Site, LinksLeadToWhatStandsBefore)
                       "WIDTH=30>\n<FIGCAPTION>Figure 1: &lt;Mode&gt; 1</FIGCAPTION>"));
     EXPECT_TRUE(Holds(Page("page2.html"), "ID=\"table1\" CLASS=\"tablecaption\" ALIGN=CENTER>"
                                           "Table 1: Loads &amp; supports</DIV>"));
+    const VORUnicodeString elsewhere(_Source.Path());
+    figure.SetBufferData(&elsewhere); // only the first directory counts
+    EXPECT_EQ(_Report.TakeWriteStatus(), VOR_S_OK);
     EXPECT_TRUE(fs::exists(_Directory.Path("file1.png")));
     EXPECT_TRUE(Holds(Page("page4.html"),
                       "<P>See <A HREF=\"page2.html#0\">Model</A>, "
