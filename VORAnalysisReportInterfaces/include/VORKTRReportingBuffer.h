@@ -94,7 +94,8 @@ public:
     int FramesExist() const;
 
     /// Writes "main.css" and, when withNavigation is not 0, "navigation.css" into a directory.
-    /// Returns 0, 0x80004005 when one cannot be opened, or the status of an impossible path.
+    /// Returns 0, 0x80004005 when one cannot be opened, or the status of an impossible path. Being
+    /// static, it tells no report what else went wrong; MakeReport does.
     static int MakeStylesheets(VORUnicodeString& directory, char withNavigation);
 
     /// Writes the frame set "index.html" and opens "navigation.html" and "page1.html", their heads

@@ -62,8 +62,8 @@ public:
     /// Tells the item its report, null for none; a report or bag calls it when it takes the item.
     virtual void SetBuffer(VORKTRReportingBuffer* iBuffer);
 
-    /// Tells the item the report directory. iPath belongs to the report and lives as long as it.
-    /// The base ignores it.
+    /// Tells the item the report directory. iPath belongs to the report and lives as long as it;
+    /// items ignore null. The base ignores every directory.
     virtual void SetBufferData(const VORUnicodeString* iPath);
 
 protected:

@@ -100,6 +100,9 @@ TEST_F(SiteTest, ADirectoryThatMayNotBeWrittenEndsTheRun)
     fs::create_directory(site);
     fs::permissions(site, fs::perms{0555});
     fs::permissions(temporary.Path(), fs::perms{0755});
+    const std::string unlisted = temporary.Path("unlisted");
+    fs::create_directory(unlisted);
+    fs::permissions(unlisted, fs::perms{0333});
     const auto runUnprivileged = [&] {
         constexpr unsigned int nobody = 65534; // to root every access is granted
         if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
@@ -109,7 +112,9 @@ TEST_F(SiteTest, ADirectoryThatMayNotBeWrittenEndsTheRun)
         const bool isRefused = refused < 0 && report.MakeReport(directory, "") == refused &&
                                report.TakeWriteStatus() == refused;
         const bool hasNoStyle = report.MakeStylesheets(directory, 0) == VOR_E_FAIL;
-        ::_exit(isRefused && hasNoStyle ? 0 : 1);
+        const bool isUnlisted = report.MakeReport(unlisted.c_str(), "") == VOR_E_FAIL &&
+                                report.TakeWriteStatus() == VOR_E_ACCESS_DENIED;
+        ::_exit(isRefused && hasNoStyle && isUnlisted ? 0 : 1);
     };
     EXPECT_EXIT(runUnprivileged(), testing::ExitedWithCode(0), "");
     EXPECT_TRUE(fs::is_empty(site));
