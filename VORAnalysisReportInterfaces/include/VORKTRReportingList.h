@@ -76,9 +76,9 @@ private:
     std::string_view UnitOf(const Line& iLine) const;
     int Store(const VORUnicodeString& iLabel, VORKTRValue ioValue, const VORUnicodeString& iUnit);
     bool HasFloats() const;
-    void AppendSeparatorCell(Fragment& ioHtml, const Line& iLine) const;
-    void AppendValue(VORUnicodeString& out, std::string& ioText, const Line& iLine, int iValueWidth,
-                     int iUnitWidth) const;
+    void AppendSeparatorCell(VORKTRByteBuffer& ioHtml, const Line& iLine) const;
+    void AppendValue(VORUnicodeString& out, VORKTRByteBuffer& ioText, const Line& iLine,
+                     int iValueWidth, int iUnitWidth) const;
 
     VORKTRValues _Values; // outlives the lines
     VORKTRSteppedArray<Line> _Lines;

@@ -2,6 +2,7 @@
 #define VORKTRReportingTable_h
 
 #include <cstddef>
+#include <deque>
 #include <vector>
 
 #include "VORKTRReportingObj.h"
@@ -96,7 +97,7 @@ private:
     VORKTRValues _Values; // outlives the cells
     // Row-major; a row has room for _Stride cells, so that columns can be added without moving
     // every row each time.
-    std::vector<VORKTRValue> _Cells;
+    std::deque<VORKTRValue> _Cells;
     std::size_t _Stride = 0;
     int _RowNb = 0;
     int _ColumnNb = 0;

@@ -49,10 +49,11 @@ TEST(Table, GridWithoutMemoryKeepsItsSize)
 {
     VORKTRReportingTable table(0x08);
     table.SetText(0, 0, "a");
-    for (const auto& [row, column] : {std::pair(0, 99), std::pair(49, 1)}) { // 100 cells
-        FailingMemory::FailAtSize(100 * sizeof(VORKTRValue));
-        EXPECT_THROW(table.SetObj(row, column, new Probe), std::bad_alloc);
-        FailingMemory::FailAtSize(100 * sizeof(VORKTRValue));
+    for (const auto& [row, column] : {std::pair(0, 99), std::pair(49, 1)}) {
+        auto* const probe = new Probe;
+        FailingMemory::FailAt(1);
+        EXPECT_THROW(table.SetObj(row, column, probe), std::bad_alloc);
+        FailingMemory::FailAt(1);
         EXPECT_THROW(table.SetText(row, column, "b"), std::bad_alloc);
         EXPECT_EQ(std::pair(table.GetRowNumber(), table.GetColumnNumber()), std::pair(1, 1));
         EXPECT_EQ(CellTextOf(table), "***\n*a*\n***\n");

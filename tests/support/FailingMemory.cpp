@@ -7,26 +7,20 @@
 namespace
 {
 
-constexpr std::size_t None = ~std::size_t{0};
 std::atomic<int> Count{0};
 std::atomic<int> Living{0};
 int Failing = 0;
 bool IsForGood = false;
-std::size_t FailingSize = None;
 
-bool IsRefused(std::size_t iSize)
+bool IsRefused()
 {
     const int number = ++Count;
-    if (iSize == FailingSize) {
-        FailingSize = None;
-        return true;
-    }
     return Failing > 0 && (number == Failing || (IsForGood && number > Failing));
 }
 
 void* Allocate(std::size_t iSize)
 {
-    if (IsRefused(iSize))
+    if (IsRefused())
         return nullptr;
     ++Living;
     return std::malloc(iSize > 0 ? iSize : 1);
@@ -52,11 +46,6 @@ void FailingMemory::FailAt(int iAllocation, bool iForGood)
     Count = 0;
     Failing = iAllocation;
     ::IsForGood = iForGood;
-}
-
-void FailingMemory::FailAtSize(std::size_t iSize)
-{
-    FailingSize = iSize;
 }
 
 int FailingMemory::GetCount()

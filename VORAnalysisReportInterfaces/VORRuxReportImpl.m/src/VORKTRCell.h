@@ -5,7 +5,7 @@
 
 #include "VORNumberFormat.h"
 
-class Fragment;
+class VORKTRByteBuffer;
 
 // The parts of HTML tables that lists, tables and their cells share.
 
@@ -35,15 +35,21 @@ constexpr CellTags RightCell(char iHeader)
     return iHeader ? CellTags{"<TH ALIGN=RIGHT>", CloseTH} : CellTags{OpenRightTD, CloseTD};
 }
 
+/// @{ The texts of numbers.
+void AppendInt(VORKTRByteBuffer& ioText, int iValue, const VORIntFormat& iFormat);
+void AppendFloat(VORKTRByteBuffer& ioText, float iValue, const VORFloatFormat& iFormat);
+/// @}
+
 /// @{ How numbers and texts look in the cells of tables (iHeader as for an item) and in list lines
 /// (iWide as for an item); each stands beside the item of its kind.
-void AppendIntInTable(Fragment& ioHtml, int iValue, const VORIntFormat& iFormat, char iHeader);
-void AppendIntInList(Fragment& ioHtml, int iValue, const VORIntFormat& iFormat, char iWide);
-void AppendFloatInTable(Fragment& ioHtml, float iValue, const VORFloatFormat& iFormat,
+void AppendIntInTable(VORKTRByteBuffer& ioHtml, int iValue, const VORIntFormat& iFormat,
+                      char iHeader);
+void AppendIntInList(VORKTRByteBuffer& ioHtml, int iValue, const VORIntFormat& iFormat, char iWide);
+void AppendFloatInTable(VORKTRByteBuffer& ioHtml, float iValue, const VORFloatFormat& iFormat,
                         char iHeader);
-void AppendFloatInList(Fragment& ioHtml, float iValue, const VORFloatFormat& iFormat);
-void AppendTextInTable(Fragment& ioHtml, std::string_view iText, char iHeader);
-void AppendTextInList(Fragment& ioHtml, std::string_view iText, char iWide);
+void AppendFloatInList(VORKTRByteBuffer& ioHtml, float iValue, const VORFloatFormat& iFormat);
+void AppendTextInTable(VORKTRByteBuffer& ioHtml, std::string_view iText, char iHeader);
+void AppendTextInList(VORKTRByteBuffer& ioHtml, std::string_view iText, char iWide);
 /// @}
 
 /// Length of a text's longest line in characters.

@@ -1,6 +1,7 @@
 #include "VORKTRFragment.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "VORFile.h"
 
@@ -12,18 +13,16 @@ void SendFragment(unsigned int iFile, std::string_view iFragment)
 
 void Fragment::Send()
 {
-    if (_End == _Begin)
-        return;
-    SendFragment(_File, {_Begin, static_cast<std::size_t>(_End - _Begin)});
-    _End = _Begin;
+    if (GetSize() > 0)
+        SendFragment(_File, Get());
+    Clear();
 }
 
-void Fragment::Grow(std::size_t iSize)
+void VORKTRByteBuffer::Grow(std::size_t iSize)
 {
-    const auto used = static_cast<std::size_t>(_End - _Begin);
-    const auto before = static_cast<std::size_t>(_Limit - _Begin);
-    const std::size_t size =
-        std::max({used + iSize, 2 * before, static_cast<std::size_t>(2 * Long)});
+    constexpr std::size_t smallest = 512;
+    const std::size_t used = GetSize();
+    const std::size_t size = std::max({used + iSize, 2 * used, smallest});
     std::unique_ptr<char[]> bytes(new char[size]);
     std::copy(_Begin, _End, bytes.get());
     _Bytes = std::move(bytes);

@@ -21,15 +21,17 @@ std::string_view PieceOf(const Piece& iPiece)
         return iPiece;
 }
 
-/// HTML that grows piece by piece and leaves as one write. Before anybody else writes into the
-/// page, what was put together is sent.
-class Fragment
+/// Bytes that grow at their end.
+class VORKTRByteBuffer
 {
 public:
-    /// On the heap, for what is long: a table, a list.
-    explicit Fragment(unsigned int iFile) : _File(iFile) {}
-    Fragment(const Fragment&) = delete;
-    Fragment& operator=(const Fragment&) = delete;
+    VORKTRByteBuffer() = default;
+    VORKTRByteBuffer(const VORKTRByteBuffer&) = delete;
+    VORKTRByteBuffer& operator=(const VORKTRByteBuffer&) = delete;
+
+    std::string_view Get() const { return {_Begin, GetSize()}; }
+    std::size_t GetSize() const { return static_cast<std::size_t>(_End - _Begin); }
+    void Clear() { _End = _Begin; }
 
     /// Adds pieces (texts of any form).
     template <typename... Pieces>
@@ -40,8 +42,8 @@ public:
         EndAt(end);
     }
 
-    /// @{ For what is made in place: the end of the fragment, with room for iSize bytes more, and
-    /// the end after those that were used.
+    /// @{ For what is made in place: the end, with room for iSize bytes more, and the end after
+    /// those that were used.
     char* MakeRoom(std::size_t iSize)
     {
         if (static_cast<std::size_t>(_Limit - _End) < iSize)
@@ -51,31 +53,46 @@ public:
     void EndAt(char* iEnd) { _End = iEnd; }
     /// @}
 
+protected:
+    /// Begins in a place of the caller's.
+    VORKTRByteBuffer(char* iPlace, std::size_t iSize)
+        : _Begin(iPlace), _End(iPlace), _Limit(iPlace + iSize)
+    {
+    }
+
+private:
+    void Grow(std::size_t iSize);
+
+    char* _Begin = nullptr;
+    char* _End = nullptr;
+    char* _Limit = nullptr;
+    std::unique_ptr<char[]> _Bytes; // once the place it was given is too small
+};
+
+/// HTML that grows piece by piece and leaves as one write. Before anybody else writes into the
+/// page, what was put together is sent.
+class Fragment : public VORKTRByteBuffer
+{
+public:
+    explicit Fragment(unsigned int iFile) : _File(iFile) {}
+
     /// Sends what there is, if anything; the fragment is empty then.
     void Send();
-    /// Sends it when it is long enough that a write more does not matter.
+    /// Sends it when it is so long that one write more does not matter.
     void SendIfLong()
     {
-        if (_End - _Begin >= Long)
+        if (GetSize() >= 4096)
             Send();
     }
 
 protected:
     Fragment(unsigned int iFile, char* iPlace, std::size_t iSize)
-        : _File(iFile), _Begin(iPlace), _End(iPlace), _Limit(iPlace + iSize)
+        : VORKTRByteBuffer(iPlace, iSize), _File(iFile)
     {
     }
 
 private:
-    static constexpr std::ptrdiff_t Long = 4096;
-
-    void Grow(std::size_t iSize);
-
     unsigned int _File;
-    char* _Begin = nullptr;
-    char* _End = nullptr;
-    char* _Limit = nullptr;
-    std::unique_ptr<char[]> _Bytes; // once the place it was given is too small
 };
 
 /// A fragment on the stack as long as it is short, as nearly all are. For items that hold no

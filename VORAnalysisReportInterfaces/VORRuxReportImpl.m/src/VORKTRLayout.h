@@ -3,8 +3,8 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <string>
 
+#include "VORKTRFragment.h"
 #include "VORUnicodeString.h"
 
 // The page of the plain-text report.
@@ -20,9 +20,10 @@ inline VORUnicodeString Repeat(char iChar, int iCount)
 }
 
 /// Appends blanks; none when the count is not positive.
-inline void AppendBlanks(std::string& ioText, int iCount)
+inline void AppendBlanks(VORKTRByteBuffer& ioText, int iCount)
 {
-    ioText.append(static_cast<std::size_t>(std::max(iCount, 0)), ' ');
+    const auto count = static_cast<std::size_t>(std::max(iCount, 0));
+    ioText.EndAt(std::fill_n(ioText.MakeRoom(count), count, ' '));
 }
 
 /// Blanks on the left of what is iWidth wide, to centre it on the page; 0 when it does not fit.

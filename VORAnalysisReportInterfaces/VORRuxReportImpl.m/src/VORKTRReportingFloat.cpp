@@ -139,13 +139,22 @@ void VORKTRReportingFloat::Report_in_Table(unsigned int iFile, const char*, unsi
     html.Send();
 }
 
-void AppendFloatInTable(Fragment& ioHtml, float iValue, const VORFloatFormat& iFormat, char iHeader)
+void AppendFloat(VORKTRByteBuffer& ioText, float iValue, const VORFloatFormat& iFormat)
 {
-    const CellTags cell = RightCell(iHeader);
-    ioHtml.Append(cell.open, FloatText(iValue, iFormat).Get(), cell.close);
+    char* const text = ioText.MakeRoom(Size);
+    ioText.EndAt(text + VORKTRReportingFloat::WriteText(iValue, iFormat, text));
 }
 
-void AppendFloatInList(Fragment& ioHtml, float iValue, const VORFloatFormat& iFormat)
+void AppendFloatInTable(VORKTRByteBuffer& ioHtml, float iValue, const VORFloatFormat& iFormat,
+                        char iHeader)
+{
+    const CellTags cell = RightCell(iHeader);
+    ioHtml.Append(cell.open);
+    AppendFloat(ioHtml, iValue, iFormat);
+    ioHtml.Append(cell.close);
+}
+
+void AppendFloatInList(VORKTRByteBuffer& ioHtml, float iValue, const VORFloatFormat& iFormat)
 {
     const FloatText made(iValue, iFormat);
     const std::string_view text = made.Get();

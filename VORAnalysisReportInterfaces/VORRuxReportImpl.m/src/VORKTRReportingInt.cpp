@@ -59,13 +59,19 @@ void VORKTRReportingInt::Report_in_List(unsigned int iFile, const char* iPath,
         WriteFragment(iFile, TwoEmptyCells);
 }
 
-void AppendIntInTable(Fragment& ioHtml, int iValue, const VORIntFormat& iFormat, char iHeader)
+void AppendInt(VORKTRByteBuffer& ioText, int iValue, const VORIntFormat& iFormat)
+{
+    ioText.Append(IntText(iValue, iFormat).Get());
+}
+
+void AppendIntInTable(VORKTRByteBuffer& ioHtml, int iValue, const VORIntFormat& iFormat,
+                      char iHeader)
 {
     const CellTags cell = CenteredCell(iHeader);
     ioHtml.Append(cell.open, IntText(iValue, iFormat).Get(), cell.close);
 }
 
-void AppendIntInList(Fragment& ioHtml, int iValue, const VORIntFormat& iFormat, char iWide)
+void AppendIntInList(VORKTRByteBuffer& ioHtml, int iValue, const VORIntFormat& iFormat, char iWide)
 {
     ioHtml.Append(OpenRightTD, IntText(iValue, iFormat).Get(), CloseTD);
     if (iWide)

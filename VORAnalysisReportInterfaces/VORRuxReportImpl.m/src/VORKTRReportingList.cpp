@@ -127,7 +127,7 @@ void VORKTRReportingList::Report(unsigned int iFile, const char* iPath, unsigned
     html.Send();
 }
 
-void VORKTRReportingList::AppendSeparatorCell(Fragment& ioHtml, const Line& iLine) const
+void VORKTRReportingList::AppendSeparatorCell(VORKTRByteBuffer& ioHtml, const Line& iLine) const
 {
     if (iLine.labelSize > 0)
         ioHtml.Append(OpenCenterTD, std::string_view(&_Separator, 1), CloseTD);
@@ -151,36 +151,37 @@ void VORKTRReportingList::ASCIIReport_generic(VORUnicodeString& out, unsigned ch
     int valueWidth = 0;
     int unitWidth = 0;
     GetColsWidth(labelWidth, valueWidth, unitWidth);
-    std::string text;
+    VORKTRByteBuffer text;
     for (int i = 0; i < _Lines.GetSize(); ++i) {
         const Line& line = _Lines[i];
         const std::string_view label = LabelOf(line);
-        text.append(inTable ? "" : "  ").append(label);
+        const std::string_view separator = label.empty() ? " " : std::string_view(&_Separator, 1);
+        text.Append(inTable ? "" : "  ", label);
         AppendBlanks(text, labelWidth - CountChars(label) + 1);
-        text.append(1, label.empty() ? ' ' : _Separator).append(1, ' ');
+        text.Append(separator, " ");
         if (!line.value.IsEmpty())
             AppendValue(out, text, line, valueWidth, unitWidth);
-        text += '\n';
-        out.AppendBytes(text);
-        text.clear();
+        text.Append("\n");
+        out.AppendBytes(text.Get());
+        text.Clear();
     }
 }
 
 // Without units values start right behind the separator. An item finds all that is ahead of it.
-void VORKTRReportingList::AppendValue(VORUnicodeString& out, std::string& ioText, const Line& iLine,
-                                      int iValueWidth, int iUnitWidth) const
+void VORKTRReportingList::AppendValue(VORUnicodeString& out, VORKTRByteBuffer& ioText,
+                                      const Line& iLine, int iValueWidth, int iUnitWidth) const
 {
     if (iUnitWidth > 0)
         AppendBlanks(ioText, iValueWidth - iLine.value.GetWidthInChar());
     if (iLine.value.IsItem()) {
-        out.AppendBytes(ioText);
-        ioText.clear();
+        out.AppendBytes(ioText.Get());
+        ioText.Clear();
         iLine.value.GetItem().ASCIIReport_in_Table(out);
     } else {
         iLine.value.AppendText(ioText);
     }
     if (iUnitWidth > 0)
-        ioText.append(1, ' ').append(UnitOf(iLine));
+        ioText.Append(" ", UnitOf(iLine));
 }
 
 int VORKTRReportingList::GetWidthInChar() const

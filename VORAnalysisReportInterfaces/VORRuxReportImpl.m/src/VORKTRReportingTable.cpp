@@ -63,11 +63,12 @@ public:
     CellLines(std::size_t iBegin, std::size_t iEnd) : _Next(iBegin), _End(iEnd) {}
 
     /// Before the lines are asked for, unless the text is one line without an end.
-    void CountLines(const std::string& iTexts)
+    void CountLines(std::string_view iTexts)
     {
         if (_Next != _End && iTexts[_End - 1] == '\n')
             --_End; // a final line feed begins no line
-        _Height = 1 + static_cast<int>(std::count(&iTexts[_Next], &iTexts[_End], '\n'));
+        const std::string_view text = iTexts.substr(_Next, _End - _Next);
+        _Height = 1 + static_cast<int>(std::count(text.begin(), text.end(), '\n'));
         _Left = _Height;
     }
 
@@ -77,7 +78,7 @@ public:
     void CenterIn(int iRowHeight) { _EmptyAbove = (iRowHeight - _Height) / 2; }
 
     /// The next line of the row, empty above and below the text.
-    std::string_view TakeLine(const std::string& iTexts)
+    std::string_view TakeLine(std::string_view iTexts)
     {
         if (_EmptyAbove > 0) {
             --_EmptyAbove;
@@ -86,7 +87,7 @@ public:
         if (_Left == 0)
             return {};
         --_Left;
-        const std::string_view rest(&iTexts[_Next], _End - _Next);
+        const std::string_view rest = iTexts.substr(_Next, _End - _Next);
         const std::string_view line = _Left == 0 ? rest : rest.substr(0, rest.find('\n'));
         _Next += line.size() + 1;
         return line;
@@ -145,42 +146,44 @@ public:
     {
         ReadTexts(iRow);
         const int height = CutTexts();
-        _IsAscii = CountChars(_Texts) == static_cast<int>(_Texts.size());
-        _Lines.resize(static_cast<std::size_t>(height) * _LongestLine + _Texts.size());
-        char* end = _Lines.data();
+        const std::string_view texts = _Texts.Get();
+        _IsAscii = CountChars(texts) == static_cast<int>(texts.size());
+        _Lines.Clear();
+        char* end = _Lines.MakeRoom(static_cast<std::size_t>(height) * _LongestLine + texts.size());
         for (int line = 0; line < height; ++line)
-            end = PutLine(end);
-        oText.AppendBytes({_Lines.data(), static_cast<std::size_t>(end - _Lines.data())});
+            end = PutLine(end, texts);
+        _Lines.EndAt(end);
+        oText.AppendBytes(_Lines.Get());
     }
 
 private:
     // Items see a text of their own.
     void ReadTexts(int iRow)
     {
-        _Texts.clear();
+        _Texts.Clear();
         _Cells.clear();
         for (int column = 0; column < _Table._ColumnNb; ++column) {
-            const std::size_t begin = _Texts.size();
+            const std::size_t begin = _Texts.GetSize();
             const VORKTRValue& cell = _Table.CellAt(iRow, column);
             if (cell.IsItem()) {
                 VORUnicodeString text;
                 cell.GetItem().ASCIIReport_in_Table(text);
-                _Texts += BytesOf(text);
+                _Texts.Append(text);
             } else if (!cell.IsEmpty()) {
                 cell.AppendText(_Texts);
             }
-            _Cells.emplace_back(begin, _Texts.size());
+            _Cells.emplace_back(begin, _Texts.GetSize());
         }
     }
 
     // Returns the height of the row.
     int CutTexts()
     {
-        if (_Texts.find('\n') == std::string::npos)
+        if (_Texts.Get().find('\n') == std::string_view::npos)
             return 1;
         int height = 1;
         for (CellLines& cell : _Cells) {
-            cell.CountLines(_Texts);
+            cell.CountLines(_Texts.Get());
             height = std::max(height, cell.GetHeight());
         }
         for (CellLines& cell : _Cells)
@@ -189,11 +192,11 @@ private:
     }
 
     // There is room for the longest line, and for a text that is longer than its column.
-    char* PutLine(char* iAt)
+    char* PutLine(char* iAt, std::string_view iTexts)
     {
         iAt = Put(iAt, _Ahead);
         for (std::size_t column = 0; column < _Cells.size(); ++column) {
-            iAt = PutCentered(iAt, _Cells[column].TakeLine(_Texts), _Widths[column]);
+            iAt = PutCentered(iAt, _Cells[column].TakeLine(iTexts), _Widths[column]);
             iAt = Put(iAt, _Behind[column]);
         }
         return iAt;
@@ -211,9 +214,9 @@ private:
     std::string _Ahead;               // what stands ahead of the first cell
     std::vector<std::string> _Behind; // and behind each
     std::size_t _LongestLine;         // but for the texts
-    std::string _Texts;               // of a row's cells
+    VORKTRByteBuffer _Texts;          // of a row's cells
     std::vector<CellLines> _Cells;
-    std::string _Lines;
+    VORKTRByteBuffer _Lines;
     bool _IsAscii = true;
 };
 
@@ -283,7 +286,7 @@ void VORKTRReportingTable::Rearrange(int iRows, int iColumns)
 {
     const auto columns = static_cast<std::size_t>(iColumns);
     const std::size_t stride = _Stride == 0 ? columns : std::max(columns, _Stride * 3 / 2);
-    std::vector<VORKTRValue> cells(stride * static_cast<std::size_t>(iRows));
+    std::deque<VORKTRValue> cells(stride * static_cast<std::size_t>(iRows));
     for (int row = 0; row < _RowNb; ++row) {
         for (int column = 0; column < _ColumnNb; ++column)
             cells[static_cast<std::size_t>(row) * stride + static_cast<std::size_t>(column)] =

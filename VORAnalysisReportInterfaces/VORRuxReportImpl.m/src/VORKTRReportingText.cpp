@@ -16,7 +16,7 @@ namespace
 constexpr const char* Source = VORKTR_SOURCE_PATH "VORKTRReportingText";
 constexpr const char* AllTextAssertion = "AssertionFailed:_AllText";
 
-void AppendEscaped(Fragment& ioHtml, std::string_view iText)
+void AppendEscaped(VORKTRByteBuffer& ioHtml, std::string_view iText)
 {
     EscapeHtml(iText, [&ioHtml](std::string_view piece) { ioHtml.Append(piece); });
 }
@@ -83,7 +83,7 @@ void VORKTRReportingText::Report_in_Table(unsigned int iFile, const char*, unsig
     html.Send();
 }
 
-void AppendTextInTable(Fragment& ioHtml, std::string_view iText, char iHeader)
+void AppendTextInTable(VORKTRByteBuffer& ioHtml, std::string_view iText, char iHeader)
 {
     const CellTags cell = CenteredCell(iHeader);
     ioHtml.Append(cell.open);
@@ -91,7 +91,7 @@ void AppendTextInTable(Fragment& ioHtml, std::string_view iText, char iHeader)
     ioHtml.Append(cell.close);
 }
 
-void AppendTextInList(Fragment& ioHtml, std::string_view iText, char iWide)
+void AppendTextInList(VORKTRByteBuffer& ioHtml, std::string_view iText, char iWide)
 {
     ioHtml.Append(iWide ? "<TD ALIGN=CENTER COLSPAN=3>&nbsp;" : OpenRightTD);
     AppendEscaped(ioHtml, iText);

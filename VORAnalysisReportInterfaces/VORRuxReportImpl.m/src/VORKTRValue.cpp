@@ -2,8 +2,8 @@
 
 #include <new>
 
-#include "VORKTRBytes.h"
 #include "VORKTRCell.h"
+#include "VORKTRFragment.h"
 #include "VORKTRIntText.h"
 #include "VORKTRReportingFloat.h"
 #include "VORKTRReportingInt.h"
@@ -32,14 +32,6 @@ VORKTRValue MakeNumber(VORKTRFormats<Format>& ioFormats, Number iNumber, const c
 }
 
 } // namespace
-
-void VORKTRValue::Release::operator()(const void* ioContent) const
-{
-    if (kind == Kind::Text)
-        delete[] static_cast<const char*>(ioContent);
-    else if (kind == Kind::Item)
-        delete static_cast<const VORKTRReportingObj*>(ioContent);
-}
 
 VORKTRValue::VORKTRValue(int iNumber, const VORIntFormat& iFormat) : _Content(&iFormat)
 {
@@ -81,7 +73,7 @@ int VORKTRValue::GetWidthInChar() const
     }
 }
 
-void VORKTRValue::AppendInTable(Fragment& ioHtml, char iHeader) const
+void VORKTRValue::AppendInTable(VORKTRByteBuffer& ioHtml, char iHeader) const
 {
     switch (GetKind()) {
     case Kind::Int:
@@ -93,7 +85,7 @@ void VORKTRValue::AppendInTable(Fragment& ioHtml, char iHeader) const
     }
 }
 
-void VORKTRValue::AppendInList(Fragment& ioHtml, char iWide) const
+void VORKTRValue::AppendInList(VORKTRByteBuffer& ioHtml, char iWide) const
 {
     switch (GetKind()) {
     case Kind::Int:
@@ -105,20 +97,15 @@ void VORKTRValue::AppendInList(Fragment& ioHtml, char iWide) const
     }
 }
 
-void VORKTRValue::AppendText(std::string& ioText) const
+void VORKTRValue::AppendText(VORKTRByteBuffer& ioText) const
 {
     switch (GetKind()) {
     case Kind::Int:
-        ioText += IntText(GetInt(), GetIntFormat()).Get();
-        break;
-    case Kind::Float: {
-        char text[VORKTRReportingFloat::TextSize];
-        const int length = VORKTRReportingFloat::WriteText(GetFloat(), GetFloatFormat(), text);
-        ioText.append(text, static_cast<std::size_t>(length));
-        break;
-    }
+        return AppendInt(ioText, GetInt(), GetIntFormat());
+    case Kind::Float:
+        return AppendFloat(ioText, GetFloat(), GetFloatFormat());
     default:
-        ioText += GetText();
+        return ioText.Append(GetText());
     }
 }
 

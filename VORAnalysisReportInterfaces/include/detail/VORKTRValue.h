@@ -3,7 +3,6 @@
 
 #include <forward_list>
 #include <memory>
-#include <string>
 #include <string_view>
 
 #include "VORKTRReportingObj.h"
@@ -11,7 +10,7 @@
 
 // An inner part of the table and list, not for use by applications.
 
-class Fragment;
+class VORKTRByteBuffer;
 
 /// What a table cell or the value of a list line holds: nothing, a number, a text or an item.
 /// Numbers and texts need no item, for nobody outside could ask for it; they look as the items do.
@@ -37,12 +36,12 @@ public:
     /// @{ The operations of an item; those of the HTML are for values without one.
     bool IsFloat() const;
     int GetWidthInChar() const;
-    void AppendInTable(Fragment& ioHtml, char iHeader) const;
-    void AppendInList(Fragment& ioHtml, char iWide) const;
+    void AppendInTable(VORKTRByteBuffer& ioHtml, char iHeader) const;
+    void AppendInList(VORKTRByteBuffer& ioHtml, char iWide) const;
     /// @}
 
     /// Appends the text of a value that holds no item.
-    void AppendText(std::string& ioText) const;
+    void AppendText(VORKTRByteBuffer& ioText) const;
 
 private:
     enum class Kind : unsigned char { Int, Float, Text, Item };
@@ -50,7 +49,13 @@ private:
     /// What there is beside the pointer: to the number's format, the text's bytes or the item.
     struct Release {
         Release() : kind(Kind::Item), integer(0) {}
-        void operator()(const void* ioContent) const;
+        void operator()(const void* ioContent) const
+        {
+            if (kind == Kind::Text)
+                delete[] static_cast<const char*>(ioContent);
+            else if (kind == Kind::Item)
+                delete static_cast<const VORKTRReportingObj*>(ioContent);
+        }
 
         Kind kind;
         union {
