@@ -2,7 +2,7 @@
 # lists:
 #   cmake -DMAP=<exports.map> -DNM=<nm> -DDEF=<result> -P ExportList.cmake -- <object>...
 
-cmake_minimum_required(VERSION 3.20)
+cmake_minimum_required(VERSION 3.25)
 
 foreach(i RANGE ${CMAKE_ARGC})
     if(DEFINED objects)
@@ -35,8 +35,6 @@ list(JOIN patterns "|" patterns)
 set(exports "")
 foreach(symbol name IN ZIP_LISTS mangled demangled)
     string(REGEX REPLACE " [A-Z]$" "" name "${name}")
-    # Where a list says "unsigned long" it means std::size_t, which is longer here.
-    string(REPLACE "unsigned long long" "unsigned long" name "${name}")
     if(name IN_LIST listed OR (patterns AND name MATCHES "^(${patterns})$"))
         string(REGEX REPLACE " T$" "" symbol "${symbol}")
         string(REGEX REPLACE " [A-Z]$" " DATA" symbol "${symbol}")

@@ -57,7 +57,7 @@ std::string Printf(Number iValue, const std::string& iFormat)
 std::size_t Below(std::size_t iEnd)
 {
     static std::mt19937_64 random;
-    return random() % iEnd;
+    return static_cast<std::size_t>(random() % iEnd);
 }
 
 double RandomFloat()
