@@ -319,7 +319,8 @@ private:
     static char* PutDigits(char* iEnd, std::uint64_t& ioNumber, int iCount)
     {
         for (; iCount >= 2; iCount -= 2) {
-            std::memcpy(iEnd -= 2, &Pairs[ioNumber % 100 * 2], 2);
+            const auto pair = static_cast<std::size_t>(ioNumber % 100 * 2);
+            std::memcpy(iEnd -= 2, &Pairs[pair], 2);
             ioNumber /= 100;
         }
         if (iCount > 0) {
