@@ -31,9 +31,11 @@ Outcome RunProgram(int iOperation, bool iForGood)
         outcome.text = program.text.ConvertToChar();
         outcome.files = ReadRoot();
         Operations = VORHostDisk::GetOperationCount();
-        VORHostDisk::FailAt(0, false);
-        program.Rewrite();
-        outcome.rewritten = ReadRoot();
+        if (!iForGood) {
+            VORHostDisk::FailAt(0, false);
+            program.Rewrite();
+            outcome.rewritten = ReadRoot();
+        }
     }
     EXPECT_EQ(VORHostDisk::GetOpenFileCount(), 0);
     return outcome;

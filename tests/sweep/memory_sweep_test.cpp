@@ -61,10 +61,12 @@ Outcome RunProgram(int iAllocation, bool iForGood, Allocations& oAllocations)
     oAllocations.all = FailingMemory::GetCount();
     FailingMemory::FailAt(0);
     readTo(outcome.files);
-    if (program)
+    if (program && !iForGood)
         program->Rewrite();
     readTo(outcome.rewritten);
+    FailingMemory::FailAt(1, true); // a report ends without any
     program.reset();
+    FailingMemory::FailAt(0);
     oAllocations.left = FailingMemory::GetLiving() - living - read;
     EXPECT_EQ(CountDescriptors(), descriptors);
     return outcome;
