@@ -121,6 +121,7 @@ public:
     /// @}
 
 private:
+    int FindFromLast(const VORKTRReportingObj* iObject);
     void Adopt(VORKTRReportingObj& ioItem);
     VORUnicodeString* Keep(const VORUnicodeString& iText);
     bool RequireDirectory() const;
@@ -135,6 +136,7 @@ private:
     void ClosePages();
 
     VORKTRItemArray _ObjectList;
+    int _LastFound = 0; // where the last search for an item to remove ended
     int _IncludedFilesNb = 0;
     int _PagesNb = 1;
     int _Index = 1;

@@ -2,6 +2,7 @@
 #define VORKTRReportingTitle_h
 
 #include <memory>
+#include <optional>
 
 #include "VORKTRReportingObj.h"
 
@@ -35,9 +36,11 @@ public:
 
 private:
     void BreakPage(unsigned int& ioFile) const;
+    int OpenNextPage(const VORUnicodeString& iTitle, unsigned int& ioFile,
+                     const VORUnicodeString& iPath) const;
 
     std::unique_ptr<VORUnicodeString> _Title;
-    std::unique_ptr<VORUnicodeString> _Path;
+    std::optional<VORUnicodeString> _Path;
     int _Order;
 };
 

@@ -22,6 +22,7 @@ bool Join(std::string_view iDirectory, std::string_view iName, std::string& oPat
     if (iDirectory.empty() || begin == std::string_view::npos)
         return false;
     const std::size_t end = iDirectory.find_last_not_of(VORLayer::Separators) + 1; // 0 for the root
+    oPath.reserve(end + 1 + iName.size()); // a page's path is made in one piece
     oPath = iDirectory.substr(0, end);
     oPath += VORLayer::Separators[0];
     oPath += iName.substr(begin);
@@ -64,7 +65,7 @@ VORStatus VORMakePath(const VORUnicodeString& iDirectory, const VORUnicodeString
     std::string path;
     if (!Join(Bytes(iDirectory), Bytes(iName), path))
         return VOR_E_INVALIDARG;
-    oPath = VORUnicodeString(path.c_str());
+    oPath = VORUnicodeString(std::move(path));
     return VOR_S_OK;
 }
 

@@ -34,7 +34,7 @@ bool Exists(const VORUnicodeString& iPath, int& ioFailure)
     return NotedUnlessMissing(ioFailure, VORFileAccess(iPath, 0, 0)) == VOR_S_OK;
 }
 
-bool IsStandardImageIn(const char* iPath, int& ioFailure)
+bool IsStandardImageIn(const VORUnicodeString& iPath, int& ioFailure)
 {
     VORUnicodeString image;
     return VORMakePath(iPath, StandardBackgroundImage, image) >= 0 && Exists(image, ioFailure);
@@ -56,7 +56,7 @@ BackgroundSetting ReadBackgroundSetting()
     return setting;
 }
 
-VORUnicodeString ChoosePageBackground(const char* iPath, int& ioFailure)
+VORUnicodeString ChoosePageBackground(const VORUnicodeString& iPath, int& ioFailure)
 {
     const BackgroundSetting setting = ReadBackgroundSetting();
     if (setting.isStandard)

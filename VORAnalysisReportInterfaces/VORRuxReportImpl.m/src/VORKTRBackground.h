@@ -21,6 +21,6 @@ BackgroundSetting ReadBackgroundSetting();
 /// The attribute for a later page of a site in the directory iPath, for which the setting is read
 /// again: the standard image when it is there, the user's when the directory it comes from exists.
 /// ioFailure notes why that could not be told.
-VORUnicodeString ChoosePageBackground(const char* iPath, int& ioFailure);
+VORUnicodeString ChoosePageBackground(const VORUnicodeString& iPath, int& ioFailure);
 
 #endif

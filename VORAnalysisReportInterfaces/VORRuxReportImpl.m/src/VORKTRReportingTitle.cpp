@@ -91,7 +91,7 @@ int VORKTRReportingTitle::GetType() const
 void VORKTRReportingTitle::SetBufferData(const VORUnicodeString* iPath)
 {
     if (!_Path && iPath)
-        _Path = std::make_unique<VORUnicodeString>(*iPath);
+        _Path = *iPath;
 }
 
 void VORKTRReportingTitle::Report(unsigned int iFile, const char*, unsigned char iFrames,
@@ -105,12 +105,12 @@ void VORKTRReportingTitle::Report(unsigned int iFile, const char*, unsigned char
         BreakPage(file);
 
     const VORUnicodeString anchor = Decimal(_Buffer->GetIndex());
-    const VORUnicodeString order = Decimal(_Order);
-    const VORUnicodeString heading = "<H" + order + ">" + *_Title + "</H" + order + ">";
+    const char level[] = {static_cast<char>('0' + _Order), '\0'};
     if (iFrames)
         WriteFragment(iNavigationFile, "<A HREF=\"", PageName(_Buffer->GetPagesNumber()), "#",
-                      anchor, "\"><NOBR>", heading, "</NOBR></A>\n");
-    WriteFragment(file, "\n<A NAME=\"", anchor, "\">", heading, "</A>\n");
+                      anchor, "\"><NOBR><H", level, ">", *_Title, "</H", level, "></NOBR></A>\n");
+    WriteFragment(file, "\n<A NAME=\"", anchor, "\"><H", level, ">", *_Title, "</H", level,
+                  "></A>\n");
 }
 
 // The files are numbered so that a new page takes over the number of the one it ends: the items
@@ -118,7 +118,7 @@ void VORKTRReportingTitle::Report(unsigned int iFile, const char*, unsigned char
 // opened keeps its number from every other file, so that what they write goes nowhere.
 void VORKTRReportingTitle::BreakPage(unsigned int& ioFile) const
 {
-    const int status = NewPage(_Title.get(), ioFile, _Path->ConvertToChar());
+    const int status = OpenNextPage(*_Title, ioFile, *_Path);
     if (status < 0)
         VORFReserve(ioFile, status);
 }
@@ -127,8 +127,12 @@ int VORKTRReportingTitle::NewPage(const VORUnicodeString* iTitle, unsigned int& 
                                   const char* iPath) const
 {
     AssertField(_Buffer, BufferAssertion, Source, 129);
-    if (!iTitle)
-        return VOR_E_INVALIDARG;
+    return iTitle ? OpenNextPage(*iTitle, ioFile, iPath) : VOR_E_INVALIDARG;
+}
+
+int VORKTRReportingTitle::OpenNextPage(const VORUnicodeString& iTitle, unsigned int& ioFile,
+                                       const VORUnicodeString& iPath) const
+{
     int failure = VOR_S_OK;
     VORUnicodeString path; // made before the close: nothing may fail between it and the open
     Noted(failure, VORMakePath(iPath, PageName(_Buffer->GetPagesNumber() + 1), path));
@@ -136,7 +140,7 @@ int VORKTRReportingTitle::NewPage(const VORUnicodeString* iTitle, unsigned int& 
     ++_Buffer->GetPagesNumber();
     const int status = Noted(failure, VORFOpen(path, "w", ioFile));
     if (status >= 0) {
-        WritePageHead(ioFile, *iTitle, ChoosePageBackground(iPath, failure));
+        WritePageHead(ioFile, iTitle, ChoosePageBackground(iPath, failure));
         _Buffer->GetIndex() = 0;
     }
     _Buffer->NoteWriteStatus(failure);

@@ -14,42 +14,33 @@ namespace
 constexpr const char* EndOfHead = "</HEAD>\n";
 constexpr const char* EndOfFrames = "</FRAMESET>\n</HTML>\n";
 
-VORUnicodeString GeneratorLine()
+void AppendHeadStart(Fragment& ioPage, const VORUnicodeString& iTitle)
 {
-    VORUnicodeString line("<META NAME=\"Generator\" CONTENT=\"ZENOA");
+    ioPage.Append("<HTML>\n<HEAD>\n<TITLE>", iTitle, "</TITLE>\n",
+                  "<META NAME=\"Generator\" CONTENT=\"ZENOA");
     const char* const level = VORGetEnv("WKS_FR_ZENOA");
     if (level && !VORGetEnv("KTRReportODT"))
-        line.Append(" ").Append(level);
-    return line.Append("\">\n");
+        ioPage.Append(" ", level);
+    ioPage.Append("\">\n");
 }
 
-VORUnicodeString HeadStart(const VORUnicodeString& iTitle)
+void AppendStylesheetLink(Fragment& ioPage, const char* iName)
 {
-    return VORUnicodeString("<HTML>\n<HEAD>\n<TITLE>")
-        .Append(iTitle)
-        .Append("</TITLE>\n")
-        .Append(GeneratorLine());
+    ioPage.Append("<LINK REL=\"STYLESHEET\" TYPE=\"TEXT/CSS\" HREF=\"", iName, "\">\n");
 }
 
-VORUnicodeString StylesheetLink(const char* iName)
+void AppendBodyStart(Fragment& ioPage, const VORUnicodeString& iBackground,
+                     const char* iLinkColour = "")
 {
-    return VORUnicodeString("<LINK REL=\"STYLESHEET\" TYPE=\"TEXT/CSS\" HREF=\"")
-        .Append(iName)
-        .Append("\">\n");
+    ioPage.Append(EndOfHead, "\n<BODY ", iBackground, iLinkColour, ">\n");
 }
 
-VORUnicodeString BodyStart(const VORUnicodeString& iBackground, const char* iLinkColour = "")
+void AppendPageHead(Fragment& ioPage, const VORUnicodeString& iTitle,
+                    const VORUnicodeString& iBackground)
 {
-    return VORUnicodeString("<BODY ").Append(iBackground).Append(iLinkColour).Append(">\n");
-}
-
-VORUnicodeString PageHead(const VORUnicodeString& iTitle, const VORUnicodeString& iBackground)
-{
-    return HeadStart(iTitle)
-        .Append(StylesheetLink(MainStylesName))
-        .Append(EndOfHead)
-        .Append("\n")
-        .Append(BodyStart(iBackground));
+    AppendHeadStart(ioPage, iTitle);
+    AppendStylesheetLink(ioPage, MainStylesName);
+    AppendBodyStart(ioPage, iBackground);
 }
 
 VORUnicodeString TextFrame(const VORUnicodeString& iSource)
@@ -111,10 +102,13 @@ int WriteStylesheet(const VORUnicodeString& iDirectory, const char* iName, const
 void WriteNavigationHead(unsigned int iFile, const VORUnicodeString& iTitle,
                          const VORUnicodeString& iBackground)
 {
-    WriteFragment(iFile, HeadStart(iTitle), "<BASE TARGET=\"TextFrame\">\n",
-                  StylesheetLink(NavigationStylesName), EndOfHead, "\n",
-                  BodyStart(iBackground, " ALINK=\"#0000FF\""), "<A HREF=\"", PageName(1),
-                  "\"><NOBR><H1>", iTitle, "</H1></NOBR></A>\n");
+    ShortFragment page(iFile);
+    AppendHeadStart(page, iTitle);
+    page.Append("<BASE TARGET=\"TextFrame\">\n");
+    AppendStylesheetLink(page, NavigationStylesName);
+    AppendBodyStart(page, iBackground, " ALINK=\"#0000FF\"");
+    page.Append("<A HREF=\"", PageName(1), "\"><NOBR><H1>", iTitle, "</H1></NOBR></A>\n");
+    page.Send();
 }
 
 } // namespace
@@ -146,14 +140,18 @@ int NotedUnlessMissing(int& ioFailure, int iStatus)
 void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
                    const VORUnicodeString& iBackground)
 {
-    WriteFragment(iFile, PageHead(iTitle, iBackground));
+    ShortFragment page(iFile);
+    AppendPageHead(page, iTitle, iBackground);
+    page.Send();
 }
 
 void WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
                         const VORUnicodeString& iBackground)
 {
-    WriteFragment(iFile, PageHead(iTitle, iBackground), "<P class=\"maintitle\">", iTitle,
-                  "</P>\n");
+    ShortFragment page(iFile);
+    AppendPageHead(page, iTitle, iBackground);
+    page.Append("<P class=\"maintitle\">", iTitle, "</P>\n");
+    page.Send();
 }
 
 int ClosePage(unsigned int iFile)
@@ -175,8 +173,10 @@ int OpenFrames(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitl
                unsigned int& oPageFile, int& ioFailure)
 {
     int status = WriteSiteFile(iDirectory, IndexName, ioFailure, [&](unsigned int iFile) {
-        WriteFragment(iFile, HeadStart(iTitle), EndOfHead, "\n", TwoFrames(PageName(1)),
-                      EndOfFrames);
+        ShortFragment page(iFile);
+        AppendHeadStart(page, iTitle);
+        page.Append(EndOfHead, "\n", TwoFrames(PageName(1)), EndOfFrames);
+        page.Send();
     });
     if (status < 0)
         return status;
@@ -197,7 +197,10 @@ int WriteReloadPage(const VORUnicodeString& iDirectory, const VORUnicodeString& 
                     const ReloadPlace& iPlace, int& ioFailure)
 {
     return WriteSiteFile(iDirectory, ReloadName, ioFailure, [&](unsigned int iFile) {
-        WriteFragment(iFile, HeadStart(iTitle), EndOfHead, " \n");
+        ShortFragment page(iFile);
+        AppendHeadStart(page, iTitle);
+        page.Append(EndOfHead, " \n");
+        page.Send();
         const VORUnicodeString anchor = VORUnicodeString("#").Append(Decimal(iPlace.anchor));
         if (iPlace.hasFrames)
             WriteFragment(iFile, TwoFrames(PageName(iPlace.page) + anchor));
