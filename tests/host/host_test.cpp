@@ -33,6 +33,23 @@ TEST(Host, GivesTheBytesOfTheSystemsOwnLayer)
     EXPECT_EQ(VORHostDisk::GetOpenFileCount(), 0);
 }
 
+TEST(Host, OpensTheHandleClosedLast)
+{
+    unsigned int files[3];
+    for (unsigned int& file : files)
+        ASSERT_EQ(VORFOpen("page", "w", file), 0);
+    for (const int closed : {2, 0}) {
+        EXPECT_EQ(VORFClose(files[closed]), 0);
+        EXPECT_LT(VORFClose(files[closed]), 0);
+    }
+    unsigned int next = 0;
+    ASSERT_EQ(VORFReserve(next, VOR_E_DISK_FULL), 0);
+    EXPECT_EQ(next, files[0]);
+    EXPECT_EQ(VORFWrite(next, "x", 1, nullptr), VOR_E_DISK_FULL);
+    EXPECT_EQ(VORFClose(next), VOR_E_DISK_FULL);
+    EXPECT_EQ(VORFClose(files[1]), 0);
+}
+
 TEST(Host, FailsWhenItIsTold)
 {
     const auto write = [](int iFailing, bool iForGood) {
