@@ -66,7 +66,7 @@ TEST_P(DiskSweep, NoFailureIsSilentOrHarmful)
 
 TEST(Update, DeletesPagesOnlyWhenTheStylesheetHasAPath)
 {
-    for (const std::size_t length : {239, 244}) { // "/navigation.css" makes it 254 or 259
+    for (const std::size_t length : {239u, 244u}) { // "/navigation.css" makes it 254 or 259
         const std::string directory(length, 'd');
         VORKTRReportingBuffer report;
         ASSERT_EQ(report.MakeReport(directory.c_str(), ""), 0);
