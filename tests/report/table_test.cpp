@@ -63,6 +63,17 @@ TEST(Table, OwnsWhatItTakes)
     EXPECT_EQ(Probe::Destroyed, 3);
 }
 
+TEST(Table, DestroysItsItemsInOrder)
+{
+    struct Numbered : Probe {
+        using Probe::Probe;
+        ~Numbered() override { EXPECT_EQ(width, Destroyed); }
+    };
+    Table table(0);
+    for (int cell = 0; cell < 200; ++cell)
+        table.SetObj(cell / 4, cell % 4, new Numbered(0, cell));
+}
+
 /// A cell of one letter; its page shows the style byte that it is given.
 struct StyleProbe : Probe {
     explicit StyleProbe(char iLetter) : Probe(0, 1), letter(1, iLetter) {}

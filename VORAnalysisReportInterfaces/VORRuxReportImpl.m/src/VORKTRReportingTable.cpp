@@ -222,7 +222,13 @@ private:
 
 VORKTRReportingTable::VORKTRReportingTable(unsigned long style) : _Style(style) {}
 
-VORKTRReportingTable::~VORKTRReportingTable() = default;
+VORKTRReportingTable::~VORKTRReportingTable()
+{
+    if (!_HoldsItems)
+        return;
+    for (VORKTRValue& cell : _Cells) // in their order, which a deque does not keep at its end
+        cell = VORKTRValue();
+}
 
 template <typename... Arguments>
 int VORKTRReportingTable::SetNew(int iRow, int iColumn, const Arguments&... iArguments)
