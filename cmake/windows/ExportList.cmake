@@ -23,8 +23,8 @@ read_symbols(mangled)
 read_symbols(demangled --demangle)
 
 # A quoted name stands for itself; without quotes * and ? have their usual meaning.
-file(STRINGS ${MAP} listed REGEX "^        .*;$")
-list(TRANSFORM listed REPLACE "^ *(.*);$" "\\1")
+file(STRINGS ${MAP} listed REGEX "^        [^#]*;")
+list(TRANSFORM listed REPLACE "^ *([^;]*);.*$" "\\1")
 set(patterns ${listed})
 list(FILTER patterns EXCLUDE REGEX "^\"")
 list(TRANSFORM listed REPLACE "^\"(.*)\"$" "\\1")
