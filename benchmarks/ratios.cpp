@@ -50,8 +50,6 @@ const Figure Figures[] = {
     {"allocations a paragraph while writing", "AllocationsPerParagraph", nullptr, 0},
     {"allocations a page while writing", "AllocationsPerPage", nullptr, 4},
     {"destroying W1 : filling it", "Destroy<W1>", "Fill<W1>", 0.1},
-    {"destroying W2 : filling it", "Destroy<W2>", "Fill<W2>", 0.1},
-    {"destroying W4 : filling it", "Destroy<W4>", "Fill<W4>", 0.1},
     {"growth: items of a report", "AddItems<VORKTRReportingBuffer>/1000000",
      "AddItems<VORKTRReportingBuffer>/1000", Growth},
     {"growth: items of a bag", "AddItems<VORKTRReportingBag>/1000000",

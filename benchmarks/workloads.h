@@ -109,7 +109,7 @@ struct OnePage {
     template <typename Out>
     static std::string Loop(const std::string& iDirectory)
     {
-        LoopFile file(iDirectory + "/index.html");
+        typename Out::File file(iDirectory + "/index.html");
         Out out(file);
         PrintHead(out, "Analysis");
         out.Put(MainTitle);
@@ -319,7 +319,7 @@ struct W5 {
             "HREF=\"navigation.css\">\n</HEAD>\n\n<BODY BGCOLOR=\"#EEF3FF\" ALINK=\"#0000FF\">\n"
             "<A HREF=\"page1.html\"><NOBR><H1>Analysis</H1></NOBR></A>\n";
         {
-            LoopFile file(iDirectory + "/page1.html");
+            typename Out::File file(iDirectory + "/page1.html");
             Out out(file);
             PrintHead(out, "Analysis");
             out.Put(MainTitle);
@@ -330,7 +330,7 @@ struct W5 {
             const std::string page = "page" + std::to_string(i + 2) + ".html";
             const std::string heading = "<H1>" + title + "</H1>";
             navigation += "<A HREF=\"" + page + "#0\"><NOBR>" + heading + "</NOBR></A>\n";
-            LoopFile file(iDirectory + "/" + page);
+            typename Out::File file(iDirectory + "/" + page);
             Out out(file);
             PrintHead(out, title);
             out.Put("\n<A NAME=\"0\">");
@@ -339,7 +339,7 @@ struct W5 {
             PrintHtmlSection(out, i, text);
             out.Put(EndOfPage);
         }
-        LoopFile file(iDirectory + "/navigation.html");
+        typename Out::File file(iDirectory + "/navigation.html");
         Out out(file);
         out.Put(navigation);
         out.Put(EndOfPage);

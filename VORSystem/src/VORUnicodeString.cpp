@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <utility>
 
 #include "VORNumberFormat.h"
@@ -187,6 +188,10 @@ VORUnicodeString& VORUnicodeString::Append(const char* iText, std::size_t iBytes
 {
     const std::size_t open = OpenSequence(_Bytes);
     const std::size_t openBytes = _Bytes.size() - open;
+    const bool isOwn =
+        !std::less<>()(iText, _Bytes.data()) && std::less<>()(iText, _Bytes.data() + _Bytes.size());
+    if (!isOwn)
+        ReserveMore(iBytes);
     _Bytes.append(iText, iBytes);
     if (openBytes == 0) {
         _Length += iLength;
@@ -200,8 +205,13 @@ VORUnicodeString& VORUnicodeString::Append(const char* iText, std::size_t iBytes
 void VORUnicodeString::ReserveMore(std::size_t iBytes)
 {
     const std::size_t needed = _Bytes.size() + iBytes;
-    if (needed > _Bytes.capacity())
-        _Bytes.reserve(std::max(needed, 2 * _Bytes.capacity()));
+    const std::size_t capacity = _Bytes.capacity();
+    if (needed <= capacity)
+        return;
+    // A text report of megabytes grows in longer steps: memory that is not used yet costs nothing
+    // on most systems, moving the text does.
+    const bool isReport = capacity >= std::size_t{1} << 20 && capacity < std::size_t{1} << 26;
+    _Bytes.reserve(std::max(needed, (isReport ? 4 : 2) * capacity));
 }
 
 std::size_t VORUnicodeString::ByteOffset(int iPosition) const

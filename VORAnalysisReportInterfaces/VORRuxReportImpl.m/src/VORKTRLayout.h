@@ -19,11 +19,11 @@ inline VORUnicodeString Repeat(char iChar, int iCount)
     return VORUnicodeString(static_cast<VORUnicodeChar>(iChar), iCount);
 }
 
-/// Appends blanks; none when the count is not positive.
-inline void AppendBlanks(VORKTRByteBuffer& ioText, int iCount)
+/// Appends a run of one character; nothing when the count is not positive.
+inline void AppendRun(VORKTRByteBuffer& ioText, char iChar, int iCount)
 {
     const auto count = static_cast<std::size_t>(std::max(iCount, 0));
-    ioText.EndAt(std::fill_n(ioText.MakeRoom(count), count, ' '));
+    ioText.EndAt(std::fill_n(ioText.MakeRoom(count), count, iChar));
 }
 
 /// Blanks on the left of what is iWidth wide, to centre it on the page; 0 when it does not fit.

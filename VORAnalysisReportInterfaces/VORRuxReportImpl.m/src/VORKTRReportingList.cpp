@@ -157,7 +157,7 @@ void VORKTRReportingList::ASCIIReport_generic(VORUnicodeString& out, unsigned ch
         const std::string_view label = LabelOf(line);
         const std::string_view separator = label.empty() ? " " : std::string_view(&_Separator, 1);
         text.Append(inTable ? "" : "  ", label);
-        AppendBlanks(text, labelWidth - CountChars(label) + 1);
+        AppendRun(text, ' ', labelWidth - CountChars(label) + 1);
         text.Append(separator, " ");
         if (!line.value.IsEmpty())
             AppendValue(out, text, line, valueWidth, unitWidth);
@@ -172,7 +172,7 @@ void VORKTRReportingList::AppendValue(VORUnicodeString& out, VORKTRByteBuffer& i
                                       const Line& iLine, int iValueWidth, int iUnitWidth) const
 {
     if (iUnitWidth > 0)
-        AppendBlanks(ioText, iValueWidth - iLine.value.GetWidthInChar());
+        AppendRun(ioText, ' ', iValueWidth - iLine.value.GetWidthInChar());
     if (iLine.value.IsItem()) {
         out.AppendBytes(ioText.Get());
         ioText.Clear();

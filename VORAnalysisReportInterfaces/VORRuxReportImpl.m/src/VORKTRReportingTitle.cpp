@@ -18,55 +18,57 @@ constexpr const char* Source = VORKTR_SOURCE_PATH "VORKTRReportingTitle";
 constexpr const char* BufferAssertion = "AssertionFailed:_Buffer";
 constexpr const char* TitleAssertion = "AssertionFailed:_Title";
 
+void AppendRule(VORKTRByteBuffer& ioText)
+{
+    ioText.Append(" ");
+    AppendRun(ioText, '-', FrameWidth);
+    ioText.Append("\n");
+}
+
 // A heading in a frame of dashes; one that is longer than the frame is not cut.
-VORUnicodeString Boxed(const VORUnicodeString& iTitle)
+void AppendBoxed(VORKTRByteBuffer& ioText, const VORUnicodeString& iTitle)
 {
-    const VORUnicodeString rule =
-        VORUnicodeString(" ").Append(Repeat('-', FrameWidth)).Append("\n");
-    return rule + VORUnicodeString(" |").Append(CenteredInFrame(iTitle)).Append("|\n") + rule;
+    AppendRule(ioText);
+    ioText.Append(" |", CenteredInFrame(iTitle), "|\n");
+    AppendRule(ioText);
 }
 
-VORUnicodeString Centered(const VORUnicodeString& iTitle)
+void AppendIndented(VORKTRByteBuffer& ioText, const VORUnicodeString& iTitle, int iBlanks)
 {
-    return Repeat(' ', MarginOf(iTitle.GetLengthInChar())).Append(iTitle).Append("\n");
+    AppendRun(ioText, ' ', iBlanks);
+    ioText.Append(iTitle, "\n");
 }
 
-VORUnicodeString Underlined(const VORUnicodeString& iTitle, char iRule)
+void AppendCentered(VORKTRByteBuffer& ioText, const VORUnicodeString& iTitle)
+{
+    AppendIndented(ioText, iTitle, MarginOf(iTitle.GetLengthInChar()));
+}
+
+void AppendUnderlined(VORKTRByteBuffer& ioText, const VORUnicodeString& iTitle, char iRule)
 {
     const int length = iTitle.GetLengthInChar();
-    return Centered(iTitle)
-        .Append(Repeat(' ', MarginOf(length)))
-        .Append(Repeat(iRule, length))
-        .Append("\n");
+    AppendCentered(ioText, iTitle);
+    AppendRun(ioText, ' ', MarginOf(length));
+    AppendRun(ioText, iRule, length);
+    ioText.Append("\n");
 }
 
-VORUnicodeString Indented(const VORUnicodeString& iTitle, int iBlanks)
-{
-    return Repeat(' ', iBlanks).Append(iTitle).Append("\n");
-}
-
-// The heading itself, drawn by its level.
-VORUnicodeString Drawn(const VORUnicodeString& iTitle, int iOrder)
+void AppendDrawn(VORKTRByteBuffer& ioText, const VORUnicodeString& iTitle, int iOrder)
 {
     switch (iOrder) {
     case 1:
-        return Boxed(iTitle);
+        return AppendBoxed(ioText, iTitle);
     case 2:
-        return Underlined(iTitle, '=');
+        return AppendUnderlined(ioText, iTitle, '=');
     case 3:
-        return Underlined(iTitle, '-');
+        return AppendUnderlined(ioText, iTitle, '-');
     case 4:
-        return Centered(iTitle);
+        return AppendCentered(ioText, iTitle);
     case 5:
-        return Indented(iTitle, 4);
+        return AppendIndented(ioText, iTitle, 4);
     default:
-        return Indented(iTitle, 7);
+        return AppendIndented(ioText, iTitle, 7);
     }
-}
-
-VORUnicodeString Block(const VORUnicodeString& iTitle, int iOrder)
-{
-    return (iOrder <= 2 ? "\n\n" : "\n") + Drawn(iTitle, iOrder) + "\n";
 }
 
 } // namespace
@@ -150,7 +152,11 @@ int VORKTRReportingTitle::OpenNextPage(const VORUnicodeString& iTitle, unsigned 
 void VORKTRReportingTitle::ASCIIReport(VORUnicodeString& ioText) const
 {
     AssertField(_Title.get(), TitleAssertion, Source, 233);
-    ioText.Append(Block(*_Title, _Order));
+    VORKTRByteBuffer block;
+    block.Append(_Order <= 2 ? "\n\n" : "\n");
+    AppendDrawn(block, *_Title, _Order);
+    block.Append("\n");
+    ioText.AppendBytes(block.Get());
 }
 
 int VORKTRReportingTitle::GetWidthInChar() const
