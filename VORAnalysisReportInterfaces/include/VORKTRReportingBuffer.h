@@ -61,7 +61,7 @@ public:
     /// The first negative status since the last call of anything that the report opened, wrote,
     /// closed, moved, copied, made or deleted, its own reason where an operation returned only
     /// 0x80004005; 0 when all of it arrived whole. VORStatusText has the words for it. Call it when
-    /// a site is written: it says what the statuses of the run do not, as of a full disk.
+    /// a site is written: a full disk, for one, shows in no other status. It begins anew each time.
     int TakeWriteStatus();
 
     /// For items that write files of their own: adds a status, which TakeWriteStatus returns when
