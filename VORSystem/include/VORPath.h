@@ -2,7 +2,8 @@
 #define VORPath_h
 
 /// @file
-/// Paths, directories and the search along path lists.
+/// Paths, directories and the search along path lists. The separator is "/"; Windows understands
+/// "\" as well, and there a drive without it stands for its root.
 
 #include <cstddef>
 
@@ -29,8 +30,8 @@ VORSYSTEM_EXPORT VORStatus VORSplitPath(const char* iPath, char* oDirectory, cha
                                         std::size_t iSize);
 
 /// Looks for a file called iName in the directories of iList, separated as the system's path lists
-/// are (":"); empty entries are skipped, a null list has none. oPath becomes the first match, empty
-/// when there is none (VOR_E_FILE_NOT_FOUND).
+/// are (":", on Windows ";"); empty entries are skipped, a null list has none. oPath becomes the
+/// first match, empty when there is none (VOR_E_FILE_NOT_FOUND).
 VORSYSTEM_EXPORT VORStatus VORFindPath(const char* iName, const char* iList,
                                        VORUnicodeString& oPath);
 
