@@ -138,7 +138,7 @@ VORKTRTableCaption& AddTable(VORKTRReportingBag& ioBag, const std::string& iCapt
 }
 
 /// Adds a table of the vectors of those nodes that iHas accepts, and returns its caption.
-VORKTRTableCaption& AddVectorTable(VORKTRReportingBag& ioBag, const Model& iModel,
+VORKTRTableCaption* AddVectorTable(VORKTRReportingBag& ioBag, const Model& iModel,
                                    const std::string& iCaption, const std::string& iSymbol,
                                    const std::string& iUnit, const std::vector<Vector>& iVectors,
                                    const std::function<bool(std::size_t)>& iHas)
@@ -150,13 +150,13 @@ VORKTRTableCaption& AddVectorTable(VORKTRReportingBag& ioBag, const Model& iMode
             rows.push_back(
                 {{iModel.nodes[i].name}, {vector.x(), vector.y(), vector.z(), vector.norm()}});
     }
-    return AddTable(ioBag, iCaption,
-                    {{"node"},
-                     {iSymbol + "x", iUnit},
-                     {iSymbol + "y", iUnit},
-                     {iSymbol + "z", iUnit},
-                     {"|" + iSymbol + "|", iUnit}},
-                    rows);
+    return &AddTable(ioBag, iCaption,
+                     {{"node"},
+                      {iSymbol + "x", iUnit},
+                      {iSymbol + "y", iUnit},
+                      {iSymbol + "z", iUnit},
+                      {"|" + iSymbol + "|", iUnit}},
+                     rows);
 }
 
 void AddModelList(VORKTRReportingBag& ioBag, const Model& iModel)
@@ -336,25 +336,26 @@ Chapter MakeCaseChapter(const Model& iModel, const LoadCase& iCase, const Soluti
     AddText(*chapter, Summarise(iModel, iCase, iSolution));
     const auto& drawing = AddDrawing(*chapter, iModel, iSolution, iDrawingPath);
     AddTitle(*chapter, "Displacements", 2);
-    const auto& moves = AddVectorTable(*chapter, iModel, "Displacements of the nodes", "u",
-                                       iModel.lengthUnit, iSolution.displacements, isAny);
+    const auto* const moves = AddVectorTable(*chapter, iModel, "Displacements of the nodes", "u",
+                                             iModel.lengthUnit, iSolution.displacements, isAny);
     AddTitle(*chapter, "Bar forces and stresses", 2);
     const auto& bars = AddBarResults(*chapter, iModel, iSolution);
     AddTitle(*chapter, "Loads and reactions", 2);
     AddTitle(*chapter, "Loads", 3);
-    const auto& loads = AddVectorTable(*chapter, iModel, "Loads on the nodes", "F",
-                                       iModel.forceUnit, iSolution.loads, isLoaded);
+    const auto* const loads = AddVectorTable(*chapter, iModel, "Loads on the nodes", "F",
+                                             iModel.forceUnit, iSolution.loads, isLoaded);
     AddTitle(*chapter, "Reactions", 3);
-    const auto& reactions = AddVectorTable(*chapter, iModel, "Reactions of the supports", "R",
-                                           iModel.forceUnit, iSolution.reactions, isSupported);
+    const auto* const reactions =
+        AddVectorTable(*chapter, iModel, "Reactions of the supports", "R", iModel.forceUnit,
+                       iSolution.reactions, isSupported);
     AddTitle(*chapter, "Check of the solution", 2);
     Add(*chapter, new VORKTRProse("The loads of "))
-        .AddLink(loads)
+        .AddLink(*loads)
         .Add(" and the reactions of ")
-        .AddLink(reactions)
+        .AddLink(*reactions)
         .Add(" are in equilibrium: the first three lines are 0 but for rounding errors. The loads "
              "do as much work on the displacements of ")
-        .AddLink(moves)
+        .AddLink(*moves)
         .Add(", drawn in ")
         .AddLink(drawing)
         .Add(", as the bar forces of ")
