@@ -57,6 +57,8 @@ TEST_F(ItemsTest, KeepTheirPositionsInAReport)
         EXPECT_EQ(report.GetObjectIndex(item, index), 0);
         EXPECT_EQ(index, place);
     }
+    for (const int removed : {9, 0, 3, 2}) // wherever the search for the one before ended
+        EXPECT_EQ(report.RemoveObject(items[static_cast<std::size_t>(removed)]), -7) << removed;
 }
 
 TEST_F(ItemsTest, AnItemHandedOverIsOwnedAlsoWhenTheCallThrows)
