@@ -10,6 +10,7 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -190,7 +191,7 @@ private:
     void Format(fmt::format_string<Arguments...> iFormat, Arguments... iArguments)
     {
         fmt::memory_buffer buffer;
-        fmt::format_to(fmt::appender(buffer), iFormat, iArguments...);
+        fmt::format_to(fmt::appender(buffer), iFormat, std::move(iArguments)...);
         _Sink.Write(buffer.data(), buffer.size());
     }
 
