@@ -186,7 +186,7 @@ VORStatus Write(File iFile, const void* iBytes, std::size_t iLength) noexcept
 
 VORStatus Sync(File iFile, const char*)
 {
-    return StatusOfCall(FlushFileBuffers(HandleOf(iFile))); // the name as well
+    return StatusOfCall(FlushFileBuffers(HandleOf(iFile))); // writes the name as well
 }
 
 VORStatus Close(File iFile) noexcept
