@@ -37,6 +37,8 @@ public:
     /// the directory: call SetBuffer on a heading, SetBuffer and SetBufferData on a file.
     int addLine(const VORUnicodeString& label, VORKTRReportingObj* value,
                 const VORUnicodeString& unit);
+    /// A number without its format, of which 0 would count as a null item.
+    int addLine(const VORUnicodeString& label, int value, const VORUnicodeString& unit) = delete;
 
     /// @{ Number of lines, and of those that there is room for (from 5 on in steps of 5).
     int GetLineNumber() const { return _Lines.GetSize(); }
