@@ -28,7 +28,7 @@ void VORKTRCaption::Count() const
 std::string VORKTRCaption::TakeNumber(VORKTRReportingBuffer* iReport, unsigned char iFrames) const
 {
     Count();
-    const std::string anchor = _Kind.anchor + std::to_string(_Number);
+    std::string anchor = _Kind.anchor + std::to_string(_Number);
     SetAnchor(iReport, iFrames, anchor);
     return anchor;
 }

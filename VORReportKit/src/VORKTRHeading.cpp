@@ -11,7 +11,9 @@ VORKTRHeading::VORKTRHeading(const VORUnicodeString& iTitle, int iOrder)
 void VORKTRHeading::Report(unsigned int iFile, const char* iPath, unsigned char iFrames,
                            unsigned int iNavigationFile) const
 {
-    const int page = _Buffer ? _Buffer->GetPagesNumber() : 0;
+    if (!_Buffer) // which the assertion of every heading reports
+        return VORKTRReportingTitle::Report(iFile, iPath, iFrames, iNavigationFile);
+    const int page = _Buffer->GetPagesNumber();
     VORKTRReportingTitle::Report(iFile, iPath, iFrames, iNavigationFile);
     // A new page has taken over the number of the one that the heading ended.
     if (_Buffer->GetPagesNumber() != page)

@@ -82,7 +82,7 @@ std::string Publisher::In(const char* iName) const
 
 std::string Publisher::WriteFigure(const char* iName, const std::string& iText) const
 {
-    const std::string path = In(iName);
+    std::string path = In(iName);
     WriteFile(path, iText);
     return path;
 }
@@ -106,7 +106,7 @@ void Publisher::WriteText() const
 
 std::string Publisher::WriteReloadPage()
 {
-    const std::string page = In("reload.html");
+    std::string page = In("reload.html");
     Check(page, _Report.MakeReloadPage());
     Check(page, _Report.TakeWriteStatus());
     return page;

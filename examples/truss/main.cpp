@@ -50,7 +50,7 @@ std::string PathForBrowser(const std::string& iDirectory)
 {
     const char* const plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"
                               "/._-+,:@";
-    const std::string path = std::filesystem::absolute(iDirectory).generic_string();
+    std::string path = std::filesystem::absolute(iDirectory).generic_string();
     if (path.find_first_not_of(plain) != std::string::npos)
         throw truss::InputError(path + ": --open takes only ASCII letters, digits and "
                                        "/ . _ - + , : @ in this path, since the browser is started "
