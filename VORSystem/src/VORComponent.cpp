@@ -12,9 +12,10 @@ struct Registry {
     std::map<std::string, VORComponentFactory, std::less<>> factories;
 };
 
+// Never destroyed: static objects of other libraries may end later.
 Registry& Components()
 {
-    static Registry registry;
+    static Registry& registry = *new Registry;
     return registry;
 }
 

@@ -18,10 +18,11 @@ struct Dictionary {
     std::vector<Entry> entries;
 };
 
-// Built on first use: the static objects that fill it may be constructed in any order.
+// Built on first use, as the static objects that fill it may be constructed in any order, and never
+// destroyed, as others may end later.
 Dictionary& TheDictionary()
 {
-    static Dictionary dictionary;
+    static Dictionary& dictionary = *new Dictionary;
     return dictionary;
 }
 

@@ -105,14 +105,13 @@ unsigned int Add()
     return Chunks[chunk].load(std::memory_order_relaxed) ? ++HandleCount : 0;
 }
 
-// Gives the free handles of a thread that ends to all others.
-void GiveBack(unsigned int iFirst)
+// Gives a thread's free handle, if it has one, to all.
+void Share(unsigned int iHandle)
 {
+    if (iHandle == 0)
+        return;
     const std::lock_guard<std::mutex> lock(Mutex);
-    for (unsigned int handle = iFirst, next = 0; handle != 0; handle = next) {
-        next = std::exchange(Place(handle).nextFree, SharedFree);
-        SharedFree = handle;
-    }
+    Place(iHandle).nextFree = std::exchange(SharedFree, iHandle);
 }
 
 // Writes out what a program leaves open at its end.
@@ -129,13 +128,14 @@ const ProcessEnd CloseAll;
 
 } // namespace
 
-// The first of the handles that the calling thread has freed is its number.
+// The handle that the calling thread freed last is its number. It is set here in any case: what the
+// end of the thread needs is then there before anything is closed.
 unsigned int VORFileTable::Take()
 {
-    if (const unsigned int own = VORLayer::ThreadNumber()) {
-        VORLayer::SetThreadNumber(Place(own).nextFree, GiveBack);
+    const unsigned int own = VORLayer::ThreadNumber();
+    VORLayer::SetThreadNumber(0, Share);
+    if (own != 0)
         return own;
-    }
     const std::lock_guard<std::mutex> lock(Mutex);
     const unsigned int shared = SharedFree;
     if (shared == 0)
@@ -146,8 +146,8 @@ unsigned int VORFileTable::Take()
 
 void VORFileTable::Free(unsigned int iHandle)
 {
-    Place(iHandle).nextFree = VORLayer::ThreadNumber();
-    VORLayer::SetThreadNumber(iHandle, GiveBack);
+    Share(VORLayer::ThreadNumber());
+    VORLayer::SetThreadNumber(iHandle, Share);
 }
 
 VOROutputFile* VORFileTable::PlaceOf(unsigned int iHandle)

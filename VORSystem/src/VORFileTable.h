@@ -33,9 +33,9 @@ private:
     bool _IsOpen = false;
 };
 
-/// The files of the process by handle. Each thread keeps the handles that it has freed, last-in
-/// first-out, and gives them back to all when it ends. Freeing a handle needs no memory, finding
-/// its file no lock.
+/// The files of the process by handle. Each thread keeps the handle that it has freed last, until
+/// it ends; the others are there for all, last-in first-out. Freeing a handle needs no memory,
+/// finding its file no lock.
 namespace VORFileTable
 {
 

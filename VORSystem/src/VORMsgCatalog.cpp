@@ -13,9 +13,10 @@ struct Catalogs {
     std::map<std::pair<std::string, std::string>, VORUnicodeString> texts;
 };
 
+// Never destroyed: static reports may be written as late as they end.
 Catalogs& Registered()
 {
-    static Catalogs catalogs;
+    static Catalogs& catalogs = *new Catalogs;
     return catalogs;
 }
 

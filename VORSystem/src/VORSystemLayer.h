@@ -53,8 +53,9 @@ int RunCommand(const char* iCommand);
 unsigned long ProcessId();
 /// @}
 
-/// @{ A number of the calling thread's own, 0 at first. iAtEnd gets it when the thread ends and is
-/// the same function in every call.
+/// @{ A number of the calling thread's own, 0 at first. iAtEnd gets it when the thread ends, at
+/// once when that is past or the system has no room for it, and is the same function in every call.
+/// The first call of a thread may need memory.
 unsigned int ThreadNumber() noexcept;
 void SetThreadNumber(unsigned int iNumber, void (*iAtEnd)(unsigned int)) noexcept;
 /// @}

@@ -6,10 +6,15 @@ namespace
 {
 
 thread_local unsigned int Number = 0;
+thread_local bool HasEnded = false; // objects that end later may still close files
 
 struct End {
     void (*atEnd)(unsigned int);
-    ~End() { atEnd(std::exchange(Number, 0)); }
+    ~End()
+    {
+        HasEnded = true;
+        atEnd(std::exchange(Number, 0));
+    }
 };
 
 } // namespace
@@ -21,6 +26,8 @@ unsigned int VORLayer::ThreadNumber() noexcept
 
 void VORLayer::SetThreadNumber(unsigned int iNumber, void (*iAtEnd)(unsigned int)) noexcept
 {
+    if (HasEnded)
+        return iAtEnd(iNumber);
     thread_local const End end{iAtEnd};
     Number = iNumber;
 }

@@ -7,8 +7,28 @@
 #include "Text.h"
 #include "VORSystemLayer.h"
 
+namespace
+{
+
+struct Values {
+    std::mutex mutex;
+    std::map<std::string, std::string> byName;
+};
+
 // The system hands out copies of the values: the last of each name is kept, where it stays until it
-// is another.
+// is another. Never destroyed: static reports may be written as late as they end.
+const char* Keep(const char* iName, const std::string& iValue)
+{
+    static Values& values = *new Values;
+    const std::lock_guard<std::mutex> lock(values.mutex);
+    std::string& kept = values.byName[iName];
+    if (kept != iValue)
+        kept = iValue;
+    return kept.c_str();
+}
+
+} // namespace
+
 const char* VORLayer::GetEnv(const char* iName)
 {
     const std::wstring name = Wide(iName);
@@ -18,15 +38,7 @@ const char* VORLayer::GetEnv(const char* iName)
     });
     if (value.empty() && GetLastError() != ERROR_SUCCESS)
         return nullptr;
-
-    static std::mutex mutex;
-    static std::map<std::string, std::string> values;
-    const std::string narrow = Narrow(value);
-    const std::lock_guard<std::mutex> lock(mutex);
-    std::string& kept = values[iName];
-    if (kept != narrow)
-        kept = narrow;
-    return kept.c_str();
+    return Keep(iName, Narrow(value));
 }
 
 int VORLayer::RunCommand(const char* iCommand)
