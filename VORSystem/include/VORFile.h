@@ -43,8 +43,9 @@ VORSYSTEM_EXPORT VORStatus VORFCopy(const VORUnicodeString& iSource,
                                     const VORUnicodeString& iTarget, int iReplace);
 
 /// Writes a file's bytes to a new or emptied target and waits until they are on the disk, so that
-/// the source can go. Negative, with nothing written, when either cannot be opened; else 0, and
-/// oArrival tells how it went: 0 when all bytes arrived, or the status of what failed.
+/// the source can go. Negative, with nothing written, when either cannot be opened or both are one
+/// file; else 0, and oArrival tells how it went: 0 when all bytes arrived, or the status of what
+/// failed.
 VORSYSTEM_EXPORT VORStatus VORFTransfer(const VORUnicodeString& iSource,
                                         const VORUnicodeString& iTarget, VORStatus& oArrival);
 

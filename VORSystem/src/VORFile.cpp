@@ -89,11 +89,14 @@ bool IsSpecial(VORFileKind iKind)
     return iKind == VORDirectory || iKind == VOROtherFile;
 }
 
-// No other copy of any process is made under the same name.
+// In the directory of the target, whose own name may be as long as names can be. No other copy of
+// any process is made under the same name.
 std::string PartialName(const VORUnicodeString& iTarget)
 {
     static std::atomic<unsigned int> count{0};
-    return iTarget.ConvertToChar() + (".part" + std::to_string(VORLayer::ProcessId())) + '.' +
+    const std::string target = iTarget.ToString();
+    const std::size_t end = target.find_last_of(VORLayer::Separators) + 1; // 0 without a directory
+    return target.substr(0, end) + ".part" + std::to_string(VORLayer::ProcessId()) + '.' +
            std::to_string(++count);
 }
 
@@ -175,7 +178,8 @@ VORStatus VORFTransfer(const VORUnicodeString& iSource, const VORUnicodeString& 
 {
     SystemFile source;
     SystemFile target;
-    oArrival = source.OpenToRead(iSource.ConvertToChar());
+    const bool isSame = VORLayer::IsSameFile(iSource.ConvertToChar(), iTarget.ConvertToChar());
+    oArrival = isSame ? VOR_E_INVALIDARG : source.OpenToRead(iSource.ConvertToChar());
     if (oArrival >= 0)
         oArrival = target.OpenToWrite(iTarget.ConvertToChar());
     if (oArrival < 0)

@@ -117,6 +117,25 @@ TEST(File, ThreadsGetTheHandlesThatTheyFreed)
     EXPECT_EQ(VORFClose(file), VOR_S_OK);
 }
 
+TEST(File, HandlesClosedByOneThreadServeOthers)
+{
+    std::vector<unsigned int> files(40000); // twice, that is more than there are handles
+    const auto open = [&] {
+        for (unsigned int& file : files)
+            ASSERT_EQ(VORFReserve(file, VOR_E_FAIL), VOR_S_OK);
+    };
+    const auto close = [&] {
+        for (const unsigned int file : files)
+            EXPECT_EQ(VORFClose(file), VOR_E_FAIL);
+    };
+    open();
+    std::thread([&] {
+        close();
+        std::thread(open).join(); // while the thread that closed lives on
+    }).join();
+    close();
+}
+
 TEST(File, TransferTellsWhetherAllArrived)
 {
     const TemporaryDirectory directory;
@@ -134,6 +153,8 @@ TEST(File, TransferTellsWhetherAllArrived)
     EXPECT_EQ(arrival, VOR_S_OK);
     EXPECT_EQ(ReadFile(target), bytes);
     EXPECT_LT(transfer(source, target + "/none", arrival), 0);
+    EXPECT_LT(transfer(source, directory.Path("./source"), arrival), 0);
+    EXPECT_EQ(ReadFile(source), bytes);
     EXPECT_EQ(transfer(source, FullDevice, arrival), VOR_S_OK);
     EXPECT_EQ(arrival, VOR_E_DISK_FULL);
 }
@@ -175,6 +196,8 @@ TEST(File, CopyAndRenameReplaceFilesAlone)
     EXPECT_EQ(ReadFile(target), "old and longer");
     EXPECT_EQ(copy(target, 1), VOR_S_OK);
     EXPECT_EQ(copy(source, 1), VOR_S_OK);
+    EXPECT_EQ(copy(directory.Path(std::string(255, 'x')), 1), VOR_S_OK);
+    EXPECT_TRUE(std::filesystem::remove(directory.Path(std::string(255, 'x'))));
     EXPECT_EQ(ReadFile(target) + ReadFile(source), bytes + bytes);
     for (const std::string& special : {std::string(NullDevice), directory.Path()}) {
         EXPECT_EQ(copy(special, 1), VOR_E_ACCESS_DENIED);
