@@ -125,7 +125,9 @@ bool TakeReadOnlyMark(const std::wstring& iPath)
     if (GetLastError() != ERROR_ACCESS_DENIED)
         return false;
     const DWORD attributes = GetFileAttributesW(iPath.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) &&
+    constexpr DWORD mask = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & mask) == FILE_ATTRIBUTE_READONLY &&
            SetFileAttributesW(iPath.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
 }
 
@@ -158,7 +160,9 @@ VORStatus OpenToRead(const char* iPath, File& oFile)
 
 VORStatus OpenToWrite(const char* iPath, File& oFile)
 {
-    const VORStatus status = Open(iPath, GENERIC_WRITE, CREATE_ALWAYS, oFile);
+    VORStatus status = Open(iPath, GENERIC_WRITE, CREATE_ALWAYS, oFile);
+    if (status == VOR_E_ACCESS_DENIED) // as for a hidden file, which would lose that mark
+        status = Open(iPath, GENERIC_WRITE, TRUNCATE_EXISTING, oFile);
     // A directory in its place is refused in the same way, but is a failure of another kind.
     return status == VOR_E_ACCESS_DENIED && KindOf(iPath) == VORDirectory ? VOR_E_FAIL : status;
 }
@@ -196,8 +200,9 @@ VORStatus Close(File iFile) noexcept
 
 VORStatus Access(const char* iPath, int iMode)
 {
-    const DWORD read = iMode & 4 ? GENERIC_READ : NoAccess;
-    const DWORD write = iMode & 2 ? GENERIC_WRITE : NoAccess;
+    // Of a directory these are the rights to list it and to add a file.
+    const DWORD read = iMode & 4 ? FILE_READ_DATA : NoAccess;
+    const DWORD write = iMode & 2 ? FILE_WRITE_DATA : NoAccess;
     return StatusOfCall(Entry(SystemPath(iPath), read | write).IsThere());
 }
 
@@ -249,7 +254,7 @@ VORStatus CreateDirectory(const char* iPath)
 
 VORStatus OpenDirectory(const char* iPath, void*& oDirectory)
 {
-    Entry directory(SystemPath(iPath), GENERIC_READ);
+    Entry directory(SystemPath(iPath), FILE_LIST_DIRECTORY);
     if (directory.IsThere() && !directory.IsDirectory())
         return VOR_E_FILE_NOT_FOUND;
     const VORStatus status = StatusOfCall(directory.IsThere());
