@@ -218,43 +218,6 @@ TEST(File, CopyAndRenameReplaceFilesAlone)
     EXPECT_LT(VORDeleteFile(directory.Path().c_str()), 0);
 }
 
-TEST(Path, MakePathPutsOneSeparatorBetween)
-{
-    const char* const refused = "left alone";
-    const char* const cases[][3] = {{"dir", "\u00E9", "dir/\u00E9"},
-                                    {"dir//", "/\u00E9", "dir/\u00E9"},
-                                    {"/", "name", "/name"},
-                                    {"", "name", refused},
-                                    {"dir", "/", refused}};
-    for (const auto& [directory, name, expected] : cases) {
-        const VORStatus status = expected == refused ? VOR_E_INVALIDARG : VOR_S_OK;
-        const std::size_t length = std::strlen(expected);
-        VORUnicodeString path(refused);
-        char narrow[] = "left alone";
-        EXPECT_EQ(VORMakePath(VORUnicodeString(directory), name, path), status);
-        EXPECT_TRUE(path == expected) << path.ConvertToChar();
-        EXPECT_EQ(VORMakePath(directory, name, narrow, length), VOR_E_INVALIDARG);
-        EXPECT_EQ(VORMakePath(directory, name, narrow, length + 1), status);
-        EXPECT_STREQ(narrow, expected);
-    }
-}
-
-TEST(Path, SplitPathCutsAtTheLastSeparator)
-{
-    const char* const cases[][3] = {
-        {"a/b/c/d", "a/b/c", "d"}, {"c.gif", "", "c.gif"}, {"/c.gif", "/", "c.gif"}};
-    for (const auto& [path, first, second] : cases) {
-        VORUnicodeString directory = path, name; // a result may be the argument
-        char narrow[2][6];
-        EXPECT_EQ(VORSplitPath(directory, directory, name), VOR_S_OK);
-        EXPECT_TRUE(directory == first && name == second) << path;
-        EXPECT_LT(VORSplitPath(path, narrow[0], narrow[1], 5), 0);
-        EXPECT_EQ(VORSplitPath(path, narrow[0], narrow[1], 6), VOR_S_OK);
-        EXPECT_TRUE(directory == narrow[0] && name == narrow[1]) << path;
-        EXPECT_LT(VORSplitPath("dir/", directory, name), 0);
-    }
-}
-
 TEST(Path, FindPathTakesTheFirstFile)
 {
     const TemporaryDirectory first, second;

@@ -26,19 +26,6 @@ void* Allocate(std::size_t iSize)
     return std::malloc(iSize > 0 ? iSize : 1);
 }
 
-void* AllocateOrThrow(std::size_t iSize)
-{
-    if (void* const place = Allocate(iSize))
-        return place;
-    throw std::bad_alloc();
-}
-
-void Free(void* iPlace)
-{
-    Living -= iPlace ? 1 : 0;
-    std::free(iPlace);
-}
-
 } // namespace
 
 void FailingMemory::FailAt(int iAllocation, bool iForGood)
@@ -58,36 +45,23 @@ int FailingMemory::GetLiving()
     return Living;
 }
 
-// All forms: sanitizers have their own of each that is left out.
+// The other forms end in these, but for sanitizers, which have arrays of their own.
 void* operator new(std::size_t iSize)
 {
-    return AllocateOrThrow(iSize);
-}
-void* operator new[](std::size_t iSize)
-{
-    return AllocateOrThrow(iSize);
+    if (void* const place = Allocate(iSize))
+        return place;
+    throw std::bad_alloc();
 }
 void* operator new(std::size_t iSize, const std::nothrow_t&) noexcept
 {
     return Allocate(iSize);
 }
-void* operator new[](std::size_t iSize, const std::nothrow_t&) noexcept
-{
-    return Allocate(iSize);
-}
 void operator delete(void* iPlace) noexcept
 {
-    Free(iPlace);
-}
-void operator delete[](void* iPlace) noexcept
-{
-    Free(iPlace);
+    Living -= iPlace ? 1 : 0;
+    std::free(iPlace);
 }
 void operator delete(void* iPlace, std::size_t) noexcept
 {
-    Free(iPlace);
-}
-void operator delete[](void* iPlace, std::size_t) noexcept
-{
-    Free(iPlace);
+    operator delete(iPlace);
 }

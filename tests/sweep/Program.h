@@ -1,6 +1,7 @@
 #ifndef Program_h
 #define Program_h
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -24,13 +25,12 @@ class Program
 public:
     explicit Program(const std::string& iRoot);
 
-    /// True when no operation had a negative status and all of it arrived whole.
+    /// True when no operation had a negative status and all of it arrived whole. The text is
+    /// written into "text".
     bool Write();
 
     /// Writes the report once more, into "again".
     void Rewrite();
-
-    VORUnicodeString text; ///< The report as text.
 
 private:
     std::string _Root;
@@ -41,13 +41,16 @@ private:
 /// What one run came to.
 struct Outcome {
     bool isWhole = false; ///< Nothing failed that showed.
-    std::string text;
+    bool mayLack = false; ///< Cells and values of lists without memory are empty.
+    int points = 0;       ///< Where something could fail.
+    int left = 0;         ///< What was not closed or freed.
     Files files;
     Files rewritten; ///< After Rewrite, with nothing that fails.
 };
 
-/// Expects a run to have ended like the right one, or with a failure that lost no file of a user;
-/// and that what is written afterwards names files that are there.
-void ExpectWholeOrHarmless(const Outcome& iOutcome, const Outcome& iRight);
+/// Runs the program with the failure of each point in turn: iRun(1) that of the first. Expects each
+/// run to end like iRight, or with a failure that lost no file of a user; and that what is written
+/// afterwards names files that are there.
+void Sweep(const Outcome& iRight, const std::function<Outcome(int)>& iRun);
 
 #endif

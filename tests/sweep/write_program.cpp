@@ -1,11 +1,11 @@
 #include <filesystem>
 
-#include "Reports.h"
+#include "Program.h"
 
 int main(int argc, char** argv)
 {
     if (argc != 2)
         return 2;
     std::filesystem::current_path(argv[1]);
-    return WriteReports() ? 0 : 1;
+    return Program("root").Write() ? 0 : 1;
 }

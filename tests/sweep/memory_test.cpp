@@ -1,0 +1,122 @@
+#include <climits>
+#include <memory>
+#include <new>
+
+#include <gtest/gtest.h>
+
+#include "Program.h"
+#include "SetEnv.h"
+#include "VORKTRReportingList.h"
+#include "VORKTRReportingTable.h"
+#include "support/ExpectedSite.h"
+#include "support/FailingMemory.h"
+#include "support/Rendering.h"
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+int CountDescriptors()
+{
+    const fs::directory_iterator open("/proc/self/fd");
+    return static_cast<int>(std::distance(begin(open), end(open)));
+}
+
+Outcome RunProgram(int iAllocation, bool iForGood)
+{
+    const TemporaryDirectory root;
+    fs::create_directory(root.Path("images"));
+    for (const auto& [name, bytes] : Sources)
+        WriteFile(root.Path(name), bytes);
+    const std::string path = root.Path();
+    Outcome outcome;
+    int filled = INT_MAX; // allocations until all items were made
+    int read = 0;         // allocated by the test itself
+    const auto readTo = [&](Files& oFiles) {
+        const int before = FailingMemory::GetLiving();
+        oFiles = ReadTree(path);
+        read += FailingMemory::GetLiving() - before;
+    };
+    const int descriptors = CountDescriptors();
+    const int living = FailingMemory::GetLiving();
+    FailingMemory::FailAt(iAllocation, iForGood);
+    std::unique_ptr<Program> program;
+    try {
+        program = std::make_unique<Program>(path);
+        filled = FailingMemory::GetCount();
+        outcome.isWhole = program->Write();
+    } catch (const std::bad_alloc&) {
+    }
+    outcome.points = FailingMemory::GetCount();
+    outcome.mayLack = iAllocation <= filled;
+    FailingMemory::FailAt(0);
+    readTo(outcome.files);
+    if (program && !iForGood)
+        program->Rewrite();
+    readTo(outcome.rewritten);
+    FailingMemory::FailAt(1, true); // a report ends without any
+    program.reset();
+    FailingMemory::FailAt(0);
+    outcome.left = FailingMemory::GetLiving() - living - read + CountDescriptors() - descriptors;
+    return outcome;
+}
+
+TEST(Memory, NoFailureIsSilentOrHarmful)
+{
+    if (fs::is_directory("/dev/shm"))
+        SetEnv("TMPDIR", "/dev/shm"); // quick
+    RunProgram(0, false);             // the process makes some things once
+    const Outcome right = RunProgram(0, false);
+    for (const bool isForGood : {false, true})
+        Sweep(right, [&](int iAllocation) { return RunProgram(iAllocation, isForGood); });
+}
+
+template <typename Action>
+void ExpectSuccessWithoutMemory(Action iAction)
+{
+    FailingMemory::FailAt(1);
+    EXPECT_EQ(iAction(), 0);
+    EXPECT_GT(FailingMemory::GetCount(), 0) << "no memory was asked for";
+    FailingMemory::FailAt(0);
+}
+
+TEST(Memory, ALineOrCellWithoutItHasNoValue)
+{
+    VORKTRReportingList list('=');
+    list.addLine("Bc", nullptr, "kN"); // room for the next
+    ExpectSuccessWithoutMemory([&] { return list.addLine("Bc", 1.5f, "kN", "%g"); });
+    ExpectSuccessWithoutMemory([&] { return list.addLine("", "t", ""); });
+    ExpectSuccessWithoutMemory([&] { return list.addLine("D", 8, "", "%d"); });
+    list.addLine("A", 5, "", "%d");
+    EXPECT_EQ(TextOf(list), "  Bc = \n  Bc = \n       \n  D  = \n  A  = 5 \n"); // the unit counts
+    EXPECT_EQ(list.GetWidthInChar(), 9);
+
+    VORKTRReportingTable table(0x08);
+    table.SetText(0, 0, "old");
+    table.Reallocate(0, 1);
+    ExpectSuccessWithoutMemory([&] { return table.SetFloat(0, 0, 1.5f, "%g"); });
+    ExpectSuccessWithoutMemory([&] { return table.SetText(0, 1, "t"); });
+    EXPECT_EQ(CellTextOf(table), "***\n***\n***\n");
+}
+
+TEST(Memory, AGridWithoutItKeepsItsSize)
+{
+    VORKTRReportingTable table(0x08);
+    table.SetText(0, 0, "a");
+    for (const auto& [row, column] : {std::pair(0, 99), std::pair(49, 1)}) {
+        FailingMemory::FailAt(1);
+        EXPECT_THROW(table.SetText(row, column, "b"), std::bad_alloc);
+        auto* const item = new VORKTRReportingList('=');
+        const int living = FailingMemory::GetLiving();
+        FailingMemory::FailAt(1);
+        EXPECT_THROW(table.SetObj(row, column, item), std::bad_alloc);
+        EXPECT_LT(FailingMemory::GetLiving(), living) << "the item is not freed";
+        EXPECT_EQ(std::pair(table.GetRowNumber(), table.GetColumnNumber()), std::pair(1, 1));
+        EXPECT_EQ(CellTextOf(table), "***\n*a*\n***\n");
+    }
+    table.SetText(1, 1, "b");
+    EXPECT_EQ(CellTextOf(table), "*****\n*a* *\n* *b*\n*****\n");
+}
+
+} // namespace
