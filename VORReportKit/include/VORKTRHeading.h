@@ -3,11 +3,10 @@
 
 #include "VORKTRLinkTarget.h"
 #include "VORKTRReportingTitle.h"
-#include "VORReportKitExport.h"
 
 /// A heading that links can lead to. On a page that it begins it also says what VORKTRCharset says
 /// on the first one.
-class VORKIT_EXPORT VORKTRHeading : public VORKTRReportingTitle, public VORKTRLinkTarget
+class VORKTR_EXPORT VORKTRHeading : public VORKTRReportingTitle, public VORKTRLinkTarget
 {
 public:
     /// As VORKTRReportingTitle: iTitle is HTML, iOrder the level from 1 to 6.

@@ -4,13 +4,13 @@
 #include <memory>
 #include <string>
 
-#include "VORReportKitExport.h"
+#include "VORAnalysisReportInterfacesExport.h"
 #include "VORUnicodeString.h"
 
 class VORKTRReportingBuffer;
 
 /// What a link can lead to: a heading, a figure or a table caption of the kit.
-class VORKIT_EXPORT VORKTRLinkTarget
+class VORKTR_EXPORT VORKTRLinkTarget
 {
 public:
     /// How a link refers to the target.
@@ -30,14 +30,12 @@ protected:
     explicit VORKTRLinkTarget(const VORUnicodeString& iName);
     ~VORKTRLinkTarget();
 
-    /// Changes the name.
-    void SetName(const VORUnicodeString& iName) const;
     /// Notes that the target is an anchor on the page that iReport, which may be null, is writing.
     void SetAnchor(VORKTRReportingBuffer* iReport, unsigned char iFrames,
                    const std::string& iAnchor) const;
 
-private:
-    std::shared_ptr<Place> _Place;
+    /// The place, which the links share.
+    const std::shared_ptr<Place> _Place;
 };
 
 #endif

@@ -2,12 +2,11 @@
 #define VORKTRLook_h
 
 #include "VORKTRReportingObj.h"
-#include "VORReportKitExport.h"
 
 /// The look of a site: whenever the site is written, it replaces the stylesheets "main.css" and,
 /// with frames, "navigation.css". The pages and the text report stay as they are. A report has one
 /// look, anywhere in it.
-class VORKIT_EXPORT VORKTRLook : public VORKTRReportingObj
+class VORKTR_EXPORT VORKTRLook : public VORKTRReportingObj
 {
 public:
     /// The built-in look: quiet colours, the system's fonts, table headers that stay in sight; for

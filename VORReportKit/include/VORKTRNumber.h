@@ -6,13 +6,12 @@
 
 #include "VORKTRReportingObj.h"
 #include "VORNumberFormat.h"
-#include "VORReportKitExport.h"
 
 /// A number in double precision or a whole number of 64 bits, as its format says: no leading blank,
 /// no forced point. It is right-aligned in cells; in a list that holds a VORKTRReportingFloat it
 /// aligns with that on the decimal point. As an item of the report itself it brings no tag and no
 /// line end with it.
-class VORKIT_EXPORT VORKTRNumber : public VORKTRReportingObj
+class VORKTR_EXPORT VORKTRNumber : public VORKTRReportingObj
 {
 public:
     /// @{ A number in a printf format; VORNumberFormat.h says what becomes of an unfit one.

@@ -7,17 +7,16 @@
 
 #include "VORKTRLinkTarget.h"
 #include "VORKTRReportingObj.h"
-#include "VORReportKitExport.h"
 
 /// A paragraph whose lines break where there is room: in a browser, and in the text report between
 /// words at 80 columns, where an empty line follows it. Blanks, tabs and line feeds only part
 /// words; a no-break space does not. HTML's special characters are escaped.
-class VORKIT_EXPORT VORKTRProse : public VORKTRReportingObj
+class VORKTR_EXPORT VORKTRProse : public VORKTRReportingObj
 {
 public:
-    /// A paragraph with its first words. In the text report all its lines are indented by iIndent
-    /// blanks; in the cell of a table they have iCellWidth characters at most. Longer words run
-    /// over.
+    /// A paragraph with its first words. In the text report its lines are indented by iIndent
+    /// blanks, 0 to 79; in a cell they have iCellWidth characters at most. Longer words run over.
+    /// As the value of a list it has one line, for which iCellWidth must suffice.
     explicit VORKTRProse(const VORUnicodeString& iText, int iIndent = 0, int iCellWidth = 40);
 
     /// @{ Appends text, or a link to a target that stands before the paragraph and may end before
@@ -44,7 +43,7 @@ private:
     };
 
     std::string GetHtml() const;
-    std::vector<std::string> GetLines(int iWidth) const;
+    std::string GetLines(int iWidth) const;
 
     std::vector<Piece> _Pieces;
     int _Indent;

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <string_view>
-#include <type_traits>
 
 #include "VORKTRKitPieces.h"
 #include "VORKTRReportingFloat.h"
@@ -15,153 +13,113 @@ namespace
 
 constexpr std::size_t BlockSize = 65536; // what is gathered before it is handed on
 constexpr std::size_t LongRow = 4096;    // what a row may add to that
-constexpr unsigned long Edged = VORKTRTableHeaderRow | VORKTRTableLastRow | VORKTRTableHeaderColumn;
-constexpr unsigned long Framed = Edged | VORKTRTableRuled;
 
-template <typename Value>
-const Value& At(const Value* iValues, std::size_t iStride, int iRow)
+/// @{ Appends the text of a cell to ioText; without one returns its width. Floats look as
+/// VORKTRReportingFloat, other numbers as their format says.
+int Show(std::string* ioText, float iNumber, const VORFloatFormat& iFormat)
 {
-    const auto* const bytes = reinterpret_cast<const char*>(iValues);
-    return *reinterpret_cast<const Value*>(bytes + static_cast<std::size_t>(iRow) * iStride);
+    if (!ioText)
+        return VORKTRReportingFloat::GetTextLength(iNumber, iFormat);
+    char text[VORKTRReportingFloat::TextSize];
+    const int length = VORKTRReportingFloat::WriteText(iNumber, iFormat, text);
+    ioText->append(text, static_cast<std::size_t>(length));
+    return length;
 }
 
-/// What gives a number a text: a float as VORKTRReportingFloat does, others as their format says.
-struct FloatText {
-    VORFloatFormat format;
-
-    int GetLength(float iValue) const
-    {
-        return VORKTRReportingFloat::GetTextLength(iValue, format);
-    }
-    int Write(float iValue, char* oText, std::size_t) const
-    {
-        return VORKTRReportingFloat::WriteText(iValue, format, oText);
-    }
-};
-
-std::string_view ViewOf(const std::string& iText)
+template <typename Number, typename Format>
+int Show(std::string* ioText, Number iNumber, const Format& iFormat)
 {
-    return iText;
+    std::string own;
+    return AppendNumber(ioText ? *ioText : own, iFormat, iNumber);
 }
 
-std::string_view ViewOf(const VORUnicodeString& iText)
+int Show(std::string* ioText, const VORUnicodeString& iText)
 {
-    return iText.GetView();
+    if (!ioText)
+        return WidestLine(iText.GetView());
+    ioText->append(iText.GetView());
+    return 0;
 }
+/// @}
 
-VORUnicodeString Heading(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit)
-{
-    return iUnit == "" ? iHeading : iHeading + "\n" + iUnit;
-}
+using Texts = std::vector<std::string>;
 
-/// The text of a cell, given out line by line for its place in a row. It serves the cells of a
-/// column one after the other, so that memory is taken once.
-class CellLines
+/// Writes rows of cells as text, as a VORKTRReportingTable does with columns of these widths.
+class RowWriter
 {
 public:
-    std::string& Begin()
+    RowWriter(const std::vector<int>& iWidths, unsigned long iStyle, bool iIsInTable)
+        : _Widths(iWidths), _Style(iStyle), _IsInTable(iIsInTable)
     {
-        _Text.clear();
-        return _Text;
+        constexpr char mark = '\1'; // which no frame holds
+        for (const int width : _Widths)
+            _Marks.emplace_back(static_cast<std::size_t>(width), mark);
+        const std::string frame = Draw({_Marks});
+        std::string_view lines = frame;
+        _Empty.append(TakeLine(lines)) += '\n';
+        if (!lines.empty()) {
+            _Rule.swap(_Empty);
+            _Empty.append(TakeLine(lines)) += '\n';
+        }
+        for (const std::string& marks : _Marks) {
+            _Places.push_back(marks.empty() ? 0 : _Empty.find(mark));
+            _Empty.replace(_Places.back(), marks.size(), marks.size(), ' ');
+        }
     }
 
-    /// Ends the text, whose final line feed begins no line, and returns its number of lines.
-    int End()
-    {
-        if (!_Text.empty() && _Text.back() == '\n')
-            _Text.pop_back();
-        _Done = 0;
-        _Height = 1 + static_cast<int>(std::count(_Text.begin(), _Text.end(), '\n'));
-        return _Height;
-    }
+    /// The line around the rows and headers; empty when there is none.
+    const std::string& GetRule() const { return _Rule; }
 
-    /// Puts the text in the middle of a row; an odd empty line goes below.
-    void CenterIn(int iRowHeight) { _EmptyAbove = (iRowHeight - _Height) / 2; }
-
-    /// The next line of the row, empty above and below the text.
-    std::string_view TakeLine()
+    /// Appends a row. The cells replace blanks of an empty line; the odd one stays on the left.
+    void Append(std::string& ioText, const Texts& iCells) const
     {
-        if (_EmptyAbove-- > 0)
-            return {};
-        std::string_view line = std::string_view(_Text).substr(_Done);
-        if (_Height > 1)
-            line = line.substr(0, line.find('\n'));
-        _Done = std::min(_Done + line.size() + 1, _Text.size());
-        return line;
+        for (const std::string& text : iCells) {
+            if (text.find('\n') != std::string::npos)
+                return AppendLines(ioText, iCells);
+        }
+        std::size_t begin = ioText.size();
+        ioText += _Empty;
+        for (std::size_t i = 0; i < iCells.size(); ++i) {
+            const int length = CountChars(iCells[i]);
+            const auto blanks = static_cast<std::size_t>((_Widths[i] - length + 1) / 2);
+            ioText.replace(begin + _Places[i] + blanks, static_cast<std::size_t>(length),
+                           iCells[i]);
+            begin += iCells[i].size() - static_cast<std::size_t>(length);
+        }
     }
 
 private:
-    std::string _Text;
-    std::size_t _Done = 0;
-    int _Height = 1;
-    int _EmptyAbove = 0;
-};
-
-/// A row of a text: its cells and what stands around them.
-struct TextRow {
-    TextRow(const std::vector<int>& iWidths, unsigned long iStyle, bool iIsInTable)
-        : widths(iWidths), cells(iWidths.size())
+    // Rows of texts as a table of their own.
+    std::string Draw(const std::vector<Texts>& iRows) const
     {
-        const auto columns = static_cast<int>(widths.size());
-        int width = std::accumulate(widths.begin(), widths.end(), columns + 1);
-        // A blank on the right of each cell, then one on its left, while the table fits the page.
-        int pads[] = {0, 0};
-        for (int& pad : pads) {
-            if (!iIsInTable && width + columns < PageWidth) {
-                width += columns;
-                pad = 1;
-            }
+        VORKTRReportingTable table(_Style);
+        for (std::size_t row = 0; row < iRows.size(); ++row) {
+            for (std::size_t column = 0; column < iRows[row].size(); ++column)
+                table.SetText(static_cast<int>(row), static_cast<int>(column), iRows[row][column]);
         }
-        std::string indent;
-        if (iStyle & VORKTRTableNotCentered)
-            indent = Blanks(std::min(PageWidth - 1 - width, 2));
-        else if (!iIsInTable)
-            indent = Blanks((PageWidth - width) / 2);
-        rule = indent + std::string(static_cast<std::size_t>(width), '*') + '\n';
-
-        const char separator = iStyle & VORKTRTableRuled ? '*' : ' ';
-        const char edge = iStyle & Edged ? '*' : separator;
-        empty = indent + edge;
-        for (const int cell : widths) {
-            places.push_back(empty.size() + static_cast<std::size_t>(pads[1]));
-            empty += Blanks(pads[1] + cell + pads[0]) + separator;
-        }
-        empty.back() = edge;
-        if (iStyle & VORKTRTableHeaderColumn)
-            empty[places.front() + static_cast<std::size_t>(widths.front() + pads[0])] = '*';
-        empty += '\n';
+        VORUnicodeString text;
+        table.ASCIIReport_generic(text, _IsInTable ? 1 : 0);
+        return text.ToString();
     }
 
-    void AppendTo(std::string& ioText)
+    // Between two rows of marks, which are left out with their rules, the columns keep their width.
+    void AppendLines(std::string& ioText, const Texts& iCells) const
     {
-        int height = 1;
-        for (CellLines& cell : cells)
-            height = std::max(height, cell.End());
-        for (CellLines& cell : cells)
-            cell.CenterIn(height);
-        for (int line = 0; line < height; ++line)
-            AppendLine(ioText);
+        const std::string drawn = Draw({_Marks, iCells, _Marks});
+        const std::size_t above =
+            _Empty.size() + _Rule.size() * (_Style & VORKTRTableHeaderRow ? 2 : 1);
+        const std::size_t below =
+            _Empty.size() + _Rule.size() * (_Style & VORKTRTableLastRow ? 2 : 1);
+        ioText.append(drawn, above, drawn.size() - above - below);
     }
 
-    // The cells replace as many blanks of an empty line; the odd blank goes to the left.
-    void AppendLine(std::string& ioText)
-    {
-        std::size_t begin = ioText.size();
-        ioText += empty;
-        for (std::size_t i = 0; i < cells.size(); ++i) {
-            const std::string_view line = cells[i].TakeLine();
-            const int length = CountChars(line);
-            const auto blanks = static_cast<std::size_t>((widths[i] - length + 1) / 2);
-            ioText.replace(begin + places[i] + blanks, static_cast<std::size_t>(length), line);
-            begin += line.size() - static_cast<std::size_t>(length);
-        }
-    }
-
-    std::vector<int> widths;
-    std::vector<CellLines> cells;
-    std::vector<std::size_t> places; // of the cells in an empty line
-    std::string empty;
-    std::string rule;
+    std::vector<int> _Widths;
+    unsigned long _Style;
+    bool _IsInTable;
+    Texts _Marks; // a row that is as wide as the columns
+    std::string _Rule;
+    std::string _Empty;               // a line without cells
+    std::vector<std::size_t> _Places; // of the cells in it
 };
 
 } // namespace
@@ -171,63 +129,46 @@ VORKTRArrayTable::VORKTRArrayTable(unsigned long iStyle, int iRows)
 {
 }
 
-template <typename Number>
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const Number* iValues, const char* iFormat, std::size_t iStride)
+template <typename Value>
+int VORKTRArrayTable::Add(const Array& iArray)
 {
-    constexpr bool isInt = std::is_same_v<Number, int>;
-    using Whole = std::conditional_t<isInt, int, long long>;
-    using Wide = std::conditional_t<std::is_integral_v<Number>, Whole, Number>;
-    using Other = std::conditional_t<std::is_integral_v<Number>, VORIntFormat, VORFloatFormat>;
-    using Text = std::conditional_t<std::is_same_v<Number, float>, FloatText, Other>;
-    if (!iValues)
+    constexpr bool isText = !std::is_arithmetic_v<Value>;
+    constexpr bool isInt = std::is_same_v<Value, int>;
+    if (!iArray.values && _RowNb > 0)
         return VOR_E_INVALIDARG;
-    const auto cell = [=, text = Text{Other(iFormat)}](std::string* ioText, int iRow) {
-        const auto value = static_cast<Wide>(At(iValues, iStride, iRow));
-        return ioText ? AppendNumber(*ioText, text, value) : text.GetLength(value);
+    const auto at = [values = static_cast<const char*>(iArray.values),
+                     stride = iArray.stride](int iRow) -> const Value& {
+        return *reinterpret_cast<const Value*>(values + static_cast<std::size_t>(iRow) * stride);
     };
-    _Columns.push_back({Heading(iHeading, iUnit), cell, !isInt, false});
+    Cell cell;
+    if constexpr (isText) {
+        cell = [at](std::string* ioText, int iRow) { return Show(ioText, at(iRow)); };
+    } else {
+        using Format = std::conditional_t<std::is_integral_v<Value>, VORIntFormat, VORFloatFormat>;
+        using Wide = std::conditional_t<std::is_same_v<Value, long>, long long, Value>;
+        cell = [at, format = Format(iArray.format)](std::string* ioText, int iRow) {
+            return Show(ioText, static_cast<Wide>(at(iRow)), format);
+        };
+    }
+    const VORUnicodeString& heading = iArray.heading;
+    _Columns.push_back({iArray.unit == "" ? heading : heading + "\n" + iArray.unit, cell,
+                        !isText && !isInt, isText});
     return VOR_S_OK;
 }
 
-template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
-                                         const float*, const char*, std::size_t);
-template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
-                                         const double*, const char*, std::size_t);
-template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
-                                         const int*, const char*, std::size_t);
-template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
-                                         const long*, const char*, std::size_t);
-template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
-                                         const long long*, const char*, std::size_t);
-
-template <typename Text>
-int VORKTRArrayTable::AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
-                                const Text* iValues, std::size_t iStride)
-{
-    if (!iValues)
-        return VOR_E_INVALIDARG;
-    const auto cell = [=](std::string* ioText, int iRow) {
-        const std::string_view text = ViewOf(At(iValues, iStride, iRow));
-        if (!ioText)
-            return WidestLine(text);
-        ioText->append(text);
-        return 0;
-    };
-    _Columns.push_back({Heading(iHeading, iUnit), cell, false, true});
-    return VOR_S_OK;
-}
-
-template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
-                                         const std::string*, std::size_t);
-template int VORKTRArrayTable::AddColumn(const VORUnicodeString&, const VORUnicodeString&,
-                                         const VORUnicodeString*, std::size_t);
+// What AddColumn takes.
+template int VORKTRArrayTable::Add<float>(const Array&);
+template int VORKTRArrayTable::Add<double>(const Array&);
+template int VORKTRArrayTable::Add<int>(const Array&);
+template int VORKTRArrayTable::Add<long>(const Array&);
+template int VORKTRArrayTable::Add<long long>(const Array&);
+template int VORKTRArrayTable::Add<std::string>(const Array&);
+template int VORKTRArrayTable::Add<VORUnicodeString>(const Array&);
 
 void VORKTRArrayTable::AddIndexColumn(const VORUnicodeString& iHeading, int iFirst)
 {
-    const auto cell = [=, text = VORIntFormat("%d")](std::string* ioText, int iRow) {
-        const long long index = static_cast<long long>(iFirst) + iRow;
-        return ioText ? AppendNumber(*ioText, text, index) : text.GetLength(index);
+    const auto cell = [iFirst, format = VORIntFormat("%d")](std::string* ioText, int iRow) {
+        return Show(ioText, static_cast<long long>(iFirst) + iRow, format);
     };
     _Columns.push_back({iHeading, cell, false, false});
 }
@@ -247,6 +188,14 @@ int VORKTRArrayTable::GetFirstRow() const
     const bool hasHeadings = std::any_of(_Columns.begin(), _Columns.end(),
                                          [](const Column& column) { return column.heading != ""; });
     return hasHeadings ? _Begin - 1 : _Begin;
+}
+
+void VORKTRArrayTable::AppendText(std::string& ioText, const Column& iColumn, int iRow) const
+{
+    if (iRow < _Begin)
+        ioText += iColumn.heading.GetView();
+    else
+        iColumn.cell(&ioText, iRow);
 }
 
 void VORKTRArrayTable::Report(unsigned int iFile, const char*, unsigned char, unsigned int) const
@@ -279,16 +228,14 @@ void VORKTRArrayTable::AppendHtmlRow(std::string& ioHtml, int iRow, bool iIsHead
     for (const Column& column : _Columns) {
         const bool isHeader =
             iIsHeader || (&column == &_Columns.front() && (_Style & VORKTRTableHeaderColumn));
-        const bool isHeading = iRow < _Begin;
-        ioHtml += OpenCell(isHeader, column.isRight && !isHeading ? Right : Centred);
-        if (isHeading) {
-            ioHtml += Escaped(column.heading.GetView());
-        } else if (column.isText) {
-            std::string text;
-            column.cell(&text, iRow);
-            ioHtml += Escaped(text);
-        } else {
+        const bool isNumber = iRow >= _Begin && !column.isText;
+        ioHtml += OpenCell(isHeader, isNumber && column.isRight ? Right : Centred);
+        if (isNumber) {
             column.cell(&ioHtml, iRow);
+        } else {
+            std::string text;
+            AppendText(text, column, iRow);
+            ioHtml += Escaped(text);
         }
         ioHtml += CloseCell(isHeader);
     }
@@ -329,22 +276,20 @@ void VORKTRArrayTable::AppendTable(VORUnicodeString& ioText, bool iIsInTable) co
     const int first = GetFirstRow();
     if (_Columns.empty() || first >= _End)
         return;
-    TextRow line(GetWidths(), _Style, iIsInTable);
+    const RowWriter rows(GetWidths(), _Style, iIsInTable);
+    Texts cells(_Columns.size());
     std::string text;
     text.reserve(BlockSize + LongRow);
-    text += _Style & Framed ? line.rule : "";
+    text += rows.GetRule();
     for (int row = first; row < _End; ++row) {
-        for (std::size_t i = 0; i < _Columns.size(); ++i) {
-            if (row < _Begin)
-                line.cells[i].Begin() = _Columns[i].heading.GetView();
-            else
-                _Columns[i].cell(&line.cells[i].Begin(), row);
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            cells[i].clear();
+            AppendText(cells[i], _Columns[i], row);
         }
-        line.AppendTo(text);
+        rows.Append(text, cells);
         if ((row == first && (_Style & VORKTRTableHeaderRow)) ||
-            (row == _End - 2 && (_Style & VORKTRTableLastRow)) ||
-            (row == _End - 1 && (_Style & Framed)))
-            text += line.rule;
+            (row == _End - 2 && (_Style & VORKTRTableLastRow)) || row == _End - 1)
+            text += rows.GetRule();
         if (text.size() >= BlockSize) {
             ioText.AppendBytes(text);
             text.clear();

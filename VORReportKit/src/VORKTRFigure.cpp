@@ -1,82 +1,57 @@
 #include "VORKTRFigure.h"
 
-#include <iterator>
-#include <memory>
-
 #include "VORFile.h"
 #include "VORKTRKitPieces.h"
 #include "VORKTRReportTools.h"
 #include "VORKTRReportingBuffer.h"
 #include "VORPath.h"
 
-namespace
+VORKTRFigure::VORKTRFigure(const VORUnicodeString& iPath, const VORUnicodeString& iCaption,
+                           const VORUnicodeString& iAlternative, int iWidth)
+    : VORKTRCaption("Figure", &VORKTRReportTools::GetFigureNumber, iCaption,
+                    iAlternative == "" ? "[Image]" : "[" + iAlternative + "]"),
+      _File(VORKTRReportingImage, iPath.ConvertToChar()), _Path(iPath),
+      _Alternative(OnOneLine(iAlternative)), _Width(iWidth)
 {
-
-constexpr VORKTRCaption::Kind Figures = {"Figure ", "Figure_Number", "figure",
-                                         &VORKTRReportTools::GetFigureNumber};
-
 }
 
-VORKTRFigure::VORKTRFigure(const char* iPath, const VORUnicodeString& iCaption,
-                           const VORUnicodeString& iAlternative, int iWidth)
-    : VORKTRReportingFile(VORKTRReportingImage, iPath), VORKTRCaption(Figures, iCaption),
-      _Path(iPath), _Name(_Path.GetView()), _Alternative(iAlternative), _Width(iWidth)
+void VORKTRFigure::SetBuffer(VORKTRReportingBuffer* iBuffer)
 {
-    _Alternative.ReplaceAll("\n", " "); // it becomes an attribute
+    VORKTRCaption::SetBuffer(iBuffer);
+    _File.SetBuffer(iBuffer);
 }
 
 void VORKTRFigure::SetBufferData(const VORUnicodeString* iDirectory)
 {
-    if (_IsMoved || !iDirectory)
+    if (_Name || !iDirectory)
         return;
-    const std::unique_ptr<const char[]> name(MoveFile(iDirectory->ConvertToChar()));
-    if (!name)
-        return;
-    _IsMoved = true;
-    _Name = name.get();
-    VORMakePath(*iDirectory, name.get(), _Path);
+    _Directory = *iDirectory; // first what may throw
+    _Name.reset(_File.MoveFile(_Directory.ConvertToChar()));
 }
 
 int VORKTRFigure::RemoveFromReport()
 {
-    const VORStatus status = VORDeleteFile(_Path);
+    VORUnicodeString path = _Path;
+    VORStatus status = _Name ? VORMakePath(_Directory, _Name.get(), path) : VOR_S_OK;
+    if (status >= 0)
+        status = VORDeleteFile(path);
     if (_Buffer)
         _Buffer->NoteWriteStatus(status);
-    return status == 0 ? VOR_S_OK : VOR_E_FAIL;
+    return status == VOR_S_OK ? VOR_S_OK : VOR_E_FAIL;
 }
 
-void VORKTRFigure::Report(unsigned int iFile, const char*, unsigned char iFrames,
-                          unsigned int) const
+std::string VORKTRFigure::GetHtml(const std::string& iAnchor, const std::string& iCaption) const
 {
-    const std::string anchor = TakeNumber(_Buffer, iFrames);
     VORUnicodeString alternative = Escaped(_Alternative.GetView());
     alternative.ReplaceAll("\"", "&quot;");
-    const std::string width = _Width > 0 ? " WIDTH=" + std::to_string(_Width) : "";
-    WriteHtml(iFile, "<CENTER>\n<FIGURE ID=\"" + anchor + "\">\n<IMG SRC=\"" + _Name + "\" ALT=\"" +
-                         alternative.ToString() + "\"" + width + ">\n<FIGCAPTION>" + GetHtml() +
-                         "</FIGCAPTION>\n</FIGURE>\n</CENTER>\n");
-}
-
-std::vector<std::string> VORKTRFigure::GetAllLines(int iWidth) const
-{
-    const VORUnicodeString shown = _Alternative == "" ? "Image" : _Alternative;
-    std::vector<std::string> lines = BreakLines(("[" + shown + "]").GetView(), iWidth);
-    std::vector<std::string> caption = GetLines(iWidth);
-    std::move(caption.begin(), caption.end(), std::back_inserter(lines));
-    return lines;
+    return "<CENTER>\n<FIGURE ID=\"" + iAnchor + "\">\n<IMG SRC=\"" +
+           (_Name ? _Name.get() : _Path.ConvertToChar()) + "\" ALT=\"" + alternative.ToString() +
+           "\"" + (_Width > 0 ? " WIDTH=" + std::to_string(_Width) : "") + ">\n<FIGCAPTION>" +
+           iCaption + "</FIGCAPTION>\n</FIGURE>\n</CENTER>\n";
 }
 
 void VORKTRFigure::ASCIIReport(VORUnicodeString& ioText) const
 {
-    ioText.AppendBytes("\n" + JoinCentred(GetAllLines(CaptionWidth)) + "\n");
-}
-
-int VORKTRFigure::GetWidthInChar() const
-{
-    return WidestLine(JoinIndented(GetAllLines(CellWidth), 0));
-}
-
-void VORKTRFigure::ASCIIReport_in_Table(VORUnicodeString& ioText) const
-{
-    ioText.AppendBytes(JoinIndented(GetAllLines(CellWidth), 0));
+    VORKTRCaption::ASCIIReport(ioText);
+    ioText.Append("\n");
 }

@@ -31,6 +31,13 @@ std::string Escaped(std::string_view iText)
     return html.ToString();
 }
 
+VORUnicodeString OnOneLine(VORUnicodeString ioText)
+{
+    ioText.ReplaceAll("\n", " ");
+    ioText.ReplaceAll("\t", " ");
+    return ioText;
+}
+
 std::string_view OpenCell(bool iIsHeader, Align iAlign)
 {
     constexpr std::string_view tags[][3] = {
@@ -60,50 +67,43 @@ int CountChars(std::string_view iText)
     return static_cast<int>(VORCountChars(iText.data(), iText.size()));
 }
 
-std::string Blanks(int iCount)
+int WidestLine(std::string_view iText)
 {
-    return std::string(static_cast<std::size_t>(std::max(iCount, 0)), ' ');
+    int width = 0;
+    while (!iText.empty())
+        width = std::max(width, CountChars(TakeLine(iText)));
+    return width;
 }
 
-std::vector<std::string> BreakLines(std::string_view iText, int iWidth)
+std::string_view TakeLine(std::string_view& ioText)
 {
-    std::vector<std::string> lines;
-    int room = 0;
+    const std::string_view line = ioText.substr(0, ioText.find('\n'));
+    ioText.remove_prefix(std::min(line.size() + 1, ioText.size()));
+    return line;
+}
+
+std::string BreakLines(std::string_view iText, int iWidth)
+{
+    std::string lines;
+    int used = 0; // of the line
     for (std::string_view word = TakeWord(iText); !word.empty(); word = TakeWord(iText)) {
-        const int length = CountChars(word) + 1;
-        if (room < length) {
-            lines.emplace_back();
-            room = iWidth + 1;
-        }
-        lines.back().append(lines.back().empty() ? "" : " ").append(word);
-        room -= length;
+        const int length = CountChars(word);
+        const bool fits = used + 1 + length <= iWidth;
+        if (!lines.empty())
+            lines += fits ? ' ' : '\n';
+        used = (fits && used > 0 ? used + 1 : 0) + length;
+        lines += word;
     }
     return lines;
 }
 
-std::string JoinIndented(const std::vector<std::string>& iLines, int iIndent)
+std::string PlaceLines(std::string_view iText, int iIndent)
 {
-    std::string text;
-    for (const std::string& line : iLines)
-        text.append(Blanks(iIndent)).append(line) += '\n';
-    return text;
-}
-
-std::string JoinCentred(const std::vector<std::string>& iLines)
-{
-    std::string text;
-    for (const std::string& line : iLines)
-        text += JoinIndented({line}, (PageWidth - CountChars(line)) / 2);
-    return text;
-}
-
-int WidestLine(std::string_view iText)
-{
-    int width = 0;
+    std::string placed;
     while (!iText.empty()) {
-        const std::size_t end = std::min(iText.find('\n'), iText.size());
-        width = std::max(width, CountChars(iText.substr(0, end)));
-        iText.remove_prefix(std::min(end + 1, iText.size()));
+        const std::string_view line = TakeLine(iText);
+        const int blanks = iIndent == OnCentre ? (PageWidth - CountChars(line)) / 2 : iIndent;
+        placed.append(static_cast<std::size_t>(std::max(blanks, 0)), ' ').append(line) += '\n';
     }
-    return width;
+    return placed;
 }

@@ -3,15 +3,13 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "VORKTRLinkTarget.h"
 
 // What the items of the kit share.
 
-constexpr int PageWidth = 80;    // of the text report
-constexpr int CaptionWidth = 72; // leaves a margin on both sides
-constexpr int CellWidth = 40;    // of what is broken inside a cell
+constexpr int PageWidth = 80; // of the text report
+constexpr int CellWidth = 40; // of what is broken inside a cell
 
 /// Says the character set of a page, and that it is made for the width of the device.
 constexpr std::string_view PageFacts =
@@ -23,6 +21,9 @@ void WriteHtml(unsigned int iFile, std::string_view iHtml);
 
 /// The text as HTML, as a paragraph writes it.
 std::string Escaped(std::string_view iText);
+
+/// The text with blanks in place of line feeds and tabs.
+VORUnicodeString OnOneLine(VORUnicodeString ioText);
 
 enum Align { Left, Centred, Right };
 
@@ -36,35 +37,35 @@ std::string InCell(bool iIsHeader, Align iAlign, std::string_view iHtml);
 std::string LinkHtml(const VORKTRLinkTarget::Place& iPlace);
 
 int CountChars(std::string_view iText);
-/// iCount blanks; none for a count below 1.
-std::string Blanks(int iCount);
-
-/// Breaks a text between words into lines of at most iWidth characters; a longer word has a line to
-/// itself.
-std::vector<std::string> BreakLines(std::string_view iText, int iWidth);
-
-/// The lines, each behind iIndent blanks or centred on the page and ended by a line feed.
-std::string JoinIndented(const std::vector<std::string>& iLines, int iIndent);
-std::string JoinCentred(const std::vector<std::string>& iLines);
-
 /// Length of the longest line of a text in characters.
 int WidestLine(std::string_view iText);
+/// Cuts the first line off a text and returns it without its line feed.
+std::string_view TakeLine(std::string_view& ioText);
 
-/// Appends a number in a format of VORNumberFormat.h or its like, and returns the length.
+/// The text broken between words into lines of at most iWidth characters; a longer word has a line
+/// to itself.
+std::string BreakLines(std::string_view iText, int iWidth);
+
+constexpr int OnCentre = -1;
+/// The lines of a text behind iIndent blanks each, or on the centre of the page.
+std::string PlaceLines(std::string_view iText, int iIndent);
+
+/// Appends a number in a format of VORNumberFormat.h and returns the length of its text, which ends
+/// at a NUL, that of "%c" with 0.
 template <typename Format, typename Number>
 int AppendNumber(std::string& ioText, const Format& iFormat, Number iNumber)
 {
+    const std::size_t before = ioText.size();
     char text[64];
-    const int length = iFormat.Write(iNumber, text, sizeof text);
-    const auto size = static_cast<std::size_t>(length);
-    if (size < sizeof text) {
-        ioText.append(text, size);
-        return length;
+    const auto size = static_cast<std::size_t>(iFormat.Write(iNumber, text, sizeof text)) + 1;
+    if (size <= sizeof text) {
+        ioText += text;
+    } else {
+        std::string longText(size, '\0');
+        iFormat.Write(iNumber, longText.data(), size);
+        ioText += longText.c_str();
     }
-    std::string longText(size + 1, '\0');
-    iFormat.Write(iNumber, longText.data(), longText.size());
-    ioText.append(longText, 0, size);
-    return length;
+    return static_cast<int>(ioText.size() - before);
 }
 
 #endif

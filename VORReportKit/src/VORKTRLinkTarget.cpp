@@ -17,11 +17,6 @@ std::shared_ptr<const VORKTRLinkTarget::Place> VORKTRLinkTarget::GetPlace() cons
     return _Place;
 }
 
-void VORKTRLinkTarget::SetName(const VORUnicodeString& iName) const
-{
-    _Place->name = iName;
-}
-
 void VORKTRLinkTarget::SetAnchor(VORKTRReportingBuffer* iReport, unsigned char iFrames,
                                  const std::string& iAnchor) const
 {

@@ -16,17 +16,8 @@ VORStatus WriteFile(const VORUnicodeString& iPath, const char* iText)
     const VORStatus opened = VORFOpen(iPath, "w", file);
     if (opened < 0)
         return opened;
-    const VORStatus written = VORFWrite(file, iText, std::strlen(iText), nullptr);
-    const VORStatus closed = VORFClose(file);
-    return written < 0 ? written : closed;
-}
-
-VORStatus CopyFrom(const VORUnicodeString& iDirectory, const char* iName,
-                   const VORUnicodeString& iTarget)
-{
-    VORUnicodeString source;
-    const VORStatus joined = VORMakePath(iDirectory, iName, source);
-    return joined < 0 ? joined : VORFCopy(source, iTarget, 1);
+    VORFWrite(file, iText, std::strlen(iText), nullptr); // the close tells a failure too
+    return VORFClose(file);
 }
 
 } // namespace
@@ -40,11 +31,13 @@ void VORKTRLook::Report(unsigned int, const char* iPath, unsigned char iFrames, 
 
 void VORKTRLook::Replace(const char* iPath, const char* iName, const char* iStyles) const
 {
+    VORUnicodeString source;
     VORUnicodeString target;
     VORStatus status = VORMakePath(iPath, iName, target);
+    if (status >= 0 && _Directory != "")
+        status = VORMakePath(_Directory, iName, source);
     if (status >= 0)
-        status =
-            _Directory == "" ? WriteFile(target, iStyles) : CopyFrom(_Directory, iName, target);
+        status = source == "" ? WriteFile(target, iStyles) : VORFCopy(source, target, 1);
     if (_Buffer)
         _Buffer->NoteWriteStatus(status);
 }

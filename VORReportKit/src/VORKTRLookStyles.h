@@ -40,7 +40,6 @@ h1 { margin: 2.2rem 0 1rem; padding-bottom: .3rem; border-bottom: 1px solid var(
 h2 { margin: 2rem 0 .8rem; font-size: 1.35rem; }
 h3 { margin: 1.8rem 0 .6rem; font-size: 1.1rem; }
 h4, h5, h6 { margin: 1.4rem 0 .5rem; color: var(--ink); font-size: 1rem; }
-h5, h6 { font-weight: 500; }
 
 /* Lists are tables without padding, the parts of a float in cells of their own. */
 table {
@@ -120,7 +119,6 @@ body {
 
 a { display: block; padding: .22rem .5rem; border-radius: .25rem; color: inherit; text-decoration: none; }
 a:hover, a:focus-visible { background-color: #dfe8f1; }
-a:active { color: #0b5cad; }
 nobr { white-space: normal; overflow-wrap: anywhere; }
 h1, h2, h3, h4, h5, h6 { margin: 0; font-size: inherit; font-weight: 400; }
 h1 { color: #1f4e79; font-weight: 600; }

@@ -1,19 +1,18 @@
 #include "VORKTRProse.h"
 
+#include <algorithm>
+
 #include "VORKTRKitPieces.h"
 
 VORKTRProse::VORKTRProse(const VORUnicodeString& iText, int iIndent, int iCellWidth)
-    : _Indent(iIndent), _CellWidth(iCellWidth)
+    : _Indent(std::clamp(iIndent, 0, PageWidth - 1)), _CellWidth(iCellWidth)
 {
     Add(iText);
 }
 
 VORKTRProse& VORKTRProse::Add(const VORUnicodeString& iText)
 {
-    VORUnicodeString text = iText;
-    text.ReplaceAll("\n", " ");
-    text.ReplaceAll("\t", " ");
-    _Pieces.push_back({text, nullptr});
+    _Pieces.push_back({OnOneLine(iText), nullptr});
     return *this;
 }
 
@@ -31,7 +30,7 @@ std::string VORKTRProse::GetHtml() const
     return html;
 }
 
-std::vector<std::string> VORKTRProse::GetLines(int iWidth) const
+std::string VORKTRProse::GetLines(int iWidth) const
 {
     std::string text;
     for (const Piece& piece : _Pieces)
@@ -52,15 +51,15 @@ void VORKTRProse::Report_in_Table(unsigned int iFile, const char*, unsigned char
 
 void VORKTRProse::ASCIIReport(VORUnicodeString& ioText) const
 {
-    ioText.AppendBytes(JoinIndented(GetLines(PageWidth - _Indent), _Indent) + "\n");
+    ioText.AppendBytes(PlaceLines(GetLines(PageWidth - _Indent), _Indent) + "\n");
 }
 
 int VORKTRProse::GetWidthInChar() const
 {
-    return WidestLine(JoinIndented(GetLines(_CellWidth), 0));
+    return WidestLine(GetLines(_CellWidth));
 }
 
 void VORKTRProse::ASCIIReport_in_Table(VORUnicodeString& ioText) const
 {
-    ioText.AppendBytes(JoinIndented(GetLines(_CellWidth), 0));
+    ioText.AppendBytes(GetLines(_CellWidth));
 }

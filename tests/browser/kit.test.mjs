@@ -56,8 +56,8 @@ for (const [name, start] of Object.entries(browsers)) {
     const frame = (name) => page.frames().find((f) => new URL(f.url()).pathname.startsWith(`/kit/${name}`));
     assert.equal(await frame("navigation").locator("h2").first().innerText(), "Tables in mPa");
     for (const [link, anchor, caption] of [
-      ["Figure 1", "page2.html#figure1", "Figure 1: Wide \u03c3"],
-      ["Table 1", "page3.html#table1", "Table 1: Many numbers"],
+      ["Figure 1", "page2.html#Figure1", "Figure 1: Wide \u03c3"],
+      ["Table 1", "page3.html#Table1", "Table 1: Many numbers"],
     ]) {
       await frame("navigation").locator("a", { hasText: "End" }).click();
       await page.waitForFunction(() => frames.TextFrame.document.querySelector("h1")?.textContent === "End");
