@@ -1,6 +1,5 @@
 #include "VORIKTRGeneralSettingAtt.h"
 
-#include "VORDictionary.h"
 #include "VORKTRMetaObject.h"
 
 const GUID IID_VORIKTRGeneralSettingAtt = {
@@ -23,11 +22,3 @@ const char* VORIKTRGeneralSettingAtt::ClassName()
 {
     return MetaObject()->GetName();
 }
-
-namespace
-{
-
-const VORFillDictionary FillDictionary(IID_VORIKTRGeneralSettingAtt, CLSID_VORMetaClass,
-                                       VORIKTRGeneralSettingAtt::MetaObject(), nullptr);
-
-} // namespace

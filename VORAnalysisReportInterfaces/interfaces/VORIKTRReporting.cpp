@@ -1,6 +1,5 @@
 #include "VORIKTRReporting.h"
 
-#include "VORDictionary.h"
 #include "VORKTRMetaObject.h"
 
 const GUID IID_VORIKTRReporting = {
@@ -27,11 +26,3 @@ VORBaseUnknown* VORIKTRReporting_var::__CastTo(IUnknown* iObject)
 {
     return CastTo(iObject, IID_VORIKTRReporting);
 }
-
-namespace
-{
-
-const VORFillDictionary FillDictionary(IID_VORIKTRReporting, CLSID_VORMetaClass,
-                                       VORIKTRReporting::MetaObject(), nullptr);
-
-} // namespace

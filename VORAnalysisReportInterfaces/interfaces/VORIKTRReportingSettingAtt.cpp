@@ -1,6 +1,5 @@
 #include "VORIKTRReportingSettingAtt.h"
 
-#include "VORDictionary.h"
 #include "VORKTRMetaObject.h"
 
 const GUID IID_VORIKTRReportingSettingAtt = {
@@ -38,11 +37,3 @@ int VORIKTRReportingSettingAtt::GetReservedSetting3()
 {
     return VOR_E_NOTIMPL;
 }
-
-namespace
-{
-
-const VORFillDictionary FillDictionary(IID_VORIKTRReportingSettingAtt, CLSID_VORMetaClass,
-                                       VORIKTRReportingSettingAtt::MetaObject(), nullptr);
-
-} // namespace

@@ -4,6 +4,9 @@
 
 #include "VORBaseUnknown.h"
 #include "VORDictionary.h"
+#include "VORIKTRGeneralSettingAtt.h"
+#include "VORIKTRReporting.h"
+#include "VORIKTRReportingSettingAtt.h"
 
 VORMetaClass* InterfaceMetaObject(VORMetaClass*& ioMetaObject, const GUID& iId, const char* iName)
 {
@@ -17,3 +20,17 @@ VORMetaClass* InterfaceMetaObject(VORMetaClass*& ioMetaObject, const GUID& iId, 
         ioMetaObject->SetFWname("VORAnalysisReportInterfaces");
     return ioMetaObject;
 }
+
+namespace
+{
+
+// All of them here, in a file that every program with a report links: of a static library it would
+// not link one that nothing asks for.
+const VORFillDictionary FillDictionary[] = {
+    {IID_VORIKTRGeneralSettingAtt, CLSID_VORMetaClass, VORIKTRGeneralSettingAtt::MetaObject(),
+     nullptr},
+    {IID_VORIKTRReporting, CLSID_VORMetaClass, VORIKTRReporting::MetaObject(), nullptr},
+    {IID_VORIKTRReportingSettingAtt, CLSID_VORMetaClass, VORIKTRReportingSettingAtt::MetaObject(),
+     nullptr}};
+
+} // namespace

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <string>
 
+#include "VORDictionary.h"
 #include "VORFile.h"
 #include "VORKTRReportingBuffer.h"
 #include "VORKTRReportingList.h"
@@ -34,6 +35,15 @@ private:
     VORUnicodeString _Colour;
 };
 
+// Of two interfaces that nothing here names.
+bool AreInterfacesInTheDictionary()
+{
+    const GUID ids[] = {
+        {0x580C9CBA, 0x86E9, 0x4B9A, {0xAC, 0x55, 0x59, 0x6D, 0x6E, 0x89, 0xA4, 0x9E}},
+        {0x7AF29DE1, 0xA4E8, 0x4B09, {0xB5, 0x04, 0x60, 0x03, 0x2B, 0x03, 0x90, 0x4E}}};
+    return VORFindInDictionary(ids[0]) && VORFindInDictionary(ids[1]);
+}
+
 bool Contains(const std::string& iText, const std::string& iPart)
 {
     const bool found = iText.find(iPart) != std::string::npos;
@@ -46,7 +56,7 @@ bool Contains(const std::string& iText, const std::string& iPart)
 
 int main(int argc, char** argv)
 {
-    if (argc != 2)
+    if (argc != 2 || !AreInterfacesInTheDictionary())
         return 2;
     VORKTRReportingBuffer report;
     report.AddObject(new Light("green"));
