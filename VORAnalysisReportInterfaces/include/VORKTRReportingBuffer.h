@@ -126,7 +126,7 @@ private:
     VORUnicodeString* Keep(const VORUnicodeString& iText);
     bool RequireDirectory() const;
     VORUnicodeString ChooseBackground();
-    bool CopyBackground(const VORUnicodeString& iImage, VORUnicodeString& oCode);
+    bool CopyBackground(VORUnicodeString& iName, VORUnicodeString& iDirectory);
     static VORUnicodeString LatestBackground();
     int BeginFrames(const VORUnicodeString& iBackground);
     int BeginSinglePage(const VORUnicodeString& iBackground);

@@ -9,7 +9,7 @@
 /// A single-precision number with its printf format (see VORFormatFloat, which says what becomes of
 /// an unfit one). Its text begins with a blank when the number is not negative, always holds a '.',
 /// whatever the locale, and has at most 29 bytes: a longer one is the number in "%.9g" instead,
-/// without what else the format holds, so that 3 in "%.9f of 100000 cycles" is " 3.". Where the
+/// without what else the format holds, so that 3 in "%.9f of 1000000 cycles" is " 3.". Where the
 /// format gives no '.', one is put in front of the first character that is no blank, digit or sign,
 /// else at the end: keep units out of such a format.
 class VORKTR_EXPORT VORKTRReportingFloat : public VORKTRReportingObj

@@ -58,9 +58,6 @@ public:
     }
     /// @}
 
-    /// Makes room for iBytes more bytes, so that adding them moves nothing.
-    void ReserveMore(std::size_t iBytes);
-
     /// The character at iPosition; 0 when the position is out of range. Constant time on ASCII
     /// text.
     VORUnicodeChar operator[](int iPosition) const;
@@ -103,6 +100,7 @@ public:
 
 private:
     VORUnicodeString& Append(const char* iText, std::size_t iBytes, std::size_t iLength);
+    void ReserveMore(std::size_t iBytes);
     std::size_t ByteOffset(int iPosition) const;
     std::size_t FindBytes(const std::string& iWhat, std::size_t iFromByte) const;
     bool IsBoundary(std::size_t iByte) const;

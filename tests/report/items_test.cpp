@@ -76,6 +76,23 @@ TEST_F(ItemsTest, AnItemHandedOverIsOwnedAlsoWhenTheCallThrows)
     EXPECT_EQ(Counts(bag->GetObjectNumber(), bag->GetAllocatedNumber()), Counts(5, 5));
 }
 
+TEST_F(ItemsTest, AnItemIsInItsPlaceUntilItIsGone)
+{
+    struct Seeking : Probe {
+        using Probe::Probe;
+        ~Seeking() override
+        {
+            int index = -1;
+            EXPECT_EQ(GetBuffer()->GetObjectIndex(this, index), 0);
+            EXPECT_EQ(index, width);
+        }
+    };
+    VORKTRReportingBuffer other;
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(other.AddObject(new Seeking(0, i)), 0);
+    EXPECT_EQ(other.RemoveObject(1), 0);
+}
+
 TEST_F(ItemsTest, AnItemMayBringAnother)
 {
     struct Leading : Probe {

@@ -67,7 +67,6 @@ inline std::string FaultOf(const StringCase& iCase)
     VORUnicodeString built(iCase.bytes.c_str(), static_cast<int>(iCase.cut)); // ends at a NUL
     const std::string rest = iCase.bytes.substr(built.ToString().size());
     const VORUnicodeString sum = built + VORUnicodeString(rest);
-    built.ReserveMore(iCase.cut);
     if (!IsText(built.AppendBytes(rest), iCase.bytes) || !IsText(sum, iCase.bytes))
         return "Append";
 

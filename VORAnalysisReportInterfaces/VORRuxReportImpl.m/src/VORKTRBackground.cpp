@@ -1,10 +1,7 @@
 #include "VORKTRBackground.h"
 
-#include <memory>
-
 #include "VORComponent.h"
 #include "VORFile.h"
-#include "VORIKTRReportingSettingAtt.h"
 #include "VORKTRSite.h"
 #include "VORPath.h"
 
@@ -15,11 +12,6 @@ VORUnicodeString ImageBackground(const VORUnicodeString& iFileName)
 
 namespace
 {
-
-struct Releaser {
-    void operator()(IUnknown* ioObject) const { ioObject->Release(); }
-};
-using SettingsPointer = std::unique_ptr<VORIKTRReportingSettingAtt, Releaser>;
 
 SettingsPointer FindSettings()
 {
@@ -45,14 +37,15 @@ bool IsStandardImageIn(const VORUnicodeString& iPath, int& ioFailure)
 BackgroundSetting ReadBackgroundSetting()
 {
     BackgroundSetting setting;
-    const SettingsPointer settings = FindSettings();
-    if (!settings)
+    setting.settings = FindSettings();
+    if (!setting.settings)
         return setting;
     unsigned char isStandard = 1;
-    if (settings->GetDefaultBackground(isStandard) >= 0)
+    if (setting.settings->GetDefaultBackground(isStandard) >= 0)
         setting.isStandard = isStandard != 0;
-    if (!setting.isStandard && settings->GetBackgroundPath(setting.image) < 0)
-        setting.image = VORUnicodeString();
+    VORUnicodeString image;
+    if (!setting.isStandard && setting.settings->GetBackgroundPath(image) >= 0)
+        setting.image = image;
     return setting;
 }
 
@@ -66,7 +59,8 @@ VORUnicodeString ChoosePageBackground(const VORUnicodeString& iPath, int& ioFail
     char directory[longestPart + 1];
     char name[longestPart + 1];
     const bool isThere =
-        VORSplitPath(setting.image.ConvertToChar(), directory, name, sizeof name) >= 0 &&
+        setting.image &&
+        VORSplitPath(setting.image->ConvertToChar(), directory, name, sizeof name) >= 0 &&
         Exists(directory, ioFailure);
     return isThere ? ImageBackground(name) : PlainBackground;
 }

@@ -1,6 +1,10 @@
 #ifndef VORKTRBackground_h
 #define VORKTRBackground_h
 
+#include <memory>
+#include <optional>
+
+#include "VORIKTRReportingSettingAtt.h"
 #include "VORUnicodeString.h"
 
 constexpr const char* StandardBackgroundImage = "Corp.gif";
@@ -9,10 +13,16 @@ constexpr const char* StandardBackgroundImage = "Corp.gif";
 constexpr const char* PlainBackground = "BGCOLOR=\"#EEF3FF\"";
 VORUnicodeString ImageBackground(const VORUnicodeString& iFileName);
 
+struct Releaser {
+    void operator()(IUnknown* ioObject) const { ioObject->Release(); }
+};
+using SettingsPointer = std::unique_ptr<VORIKTRReportingSettingAtt, Releaser>;
+
 /// What the user's settings say of the page background.
 struct BackgroundSetting {
+    SettingsPointer settings; ///< Held until the background is chosen; null without a component.
     bool isStandard = true;
-    VORUnicodeString image; ///< Path of the user's image; empty when it could not be read.
+    std::optional<VORUnicodeString> image; ///< Path of the user's, unless it could not be read.
 };
 
 /// Asks the settings component; without one, the standard background.

@@ -15,11 +15,26 @@ void ForEachItem(const VORKTRItemArray& iItems, Visit&& iVisit)
     }
 }
 
+/// Destroys the item at a position, where it is found until it is gone: reset would empty the
+/// position first.
+inline void DestroyItem(VORKTRItemArray& ioItems, int iIndex)
+{
+    delete ioItems[iIndex].get();
+    static_cast<void>(ioItems[iIndex].release());
+}
+
+/// Destroys all items, from the first to the last.
+inline void DestroyItems(VORKTRItemArray& ioItems)
+{
+    for (int i = 0; i < ioItems.GetSize(); ++i)
+        DestroyItem(ioItems, i);
+}
+
 /// Destroys the item at a position that holds one and returns what its RemoveFromReport returned.
 inline int RemoveItem(VORKTRItemArray& ioItems, int iIndex)
 {
     const int status = ioItems[iIndex]->RemoveFromReport();
-    ioItems[iIndex].reset();
+    DestroyItem(ioItems, iIndex);
     return status;
 }
 

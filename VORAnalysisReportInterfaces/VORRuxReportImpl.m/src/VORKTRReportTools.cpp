@@ -22,7 +22,8 @@ int VORKTRReportTools::StartBrowser(const VORUnicodeString& page, unsigned char)
     if (VORGetEnv("KTR_ODT"))
         return 0;
     VORUnicodeString command;
-    VORFindPath("RunNs.sh", VORGetEnv("VORCommandPath"), command);
+    if (const char* const path = VORGetEnv("VORCommandPath"))
+        VORFindPath("RunNs.sh", path, command);
     if (command == "")
         return -1;
     command.Append(" ").Append(page);

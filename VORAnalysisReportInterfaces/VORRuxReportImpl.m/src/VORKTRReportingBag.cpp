@@ -6,7 +6,11 @@
 #include "VORKTRItems.h"
 
 VORKTRReportingBag::VORKTRReportingBag() = default;
-VORKTRReportingBag::~VORKTRReportingBag() = default;
+
+VORKTRReportingBag::~VORKTRReportingBag()
+{
+    DestroyItems(_ObjectList);
+}
 
 int VORKTRReportingBag::RemoveFromReport()
 {

@@ -47,9 +47,7 @@ VORKTRReportingBuffer::VORKTRReportingBuffer() = default;
 
 VORKTRReportingBuffer::~VORKTRReportingBuffer()
 {
-    // Now, while the counters and directories that the items may use are still there.
-    for (int i = 0; i < _ObjectList.GetSize(); ++i)
-        _ObjectList[i].reset();
+    DestroyItems(_ObjectList); // while the counters and directories that they may use are there
     ClosePages();
     // No effect here; a platform's own string class may count on it when a report ends.
     VORUnicodeString().BuildFromNum(100, "%#x");
@@ -218,13 +216,14 @@ int VORKTRReportingBuffer::BeginFrames(const VORUnicodeString& iBackground)
 
 int VORKTRReportingBuffer::BeginSinglePage(const VORUnicodeString& iBackground)
 {
+    const VORUnicodeString level = ReadLevel();
     VORUnicodeString path;
     if (Noted(_WriteStatus, VORMakePath(*_Path, IndexName, path)) < 0)
         return VOR_S_OK; // without a page, Flush fails
     const int status = Noted(_WriteStatus, VORFOpen(path, "w", _PageFile));
     if (status < 0)
         return status;
-    WriteFirstPageHead(_PageFile, *_Title, iBackground);
+    WriteFirstPageHead(_PageFile, *_Title, iBackground, level);
     return VOR_S_OK;
 }
 
@@ -233,25 +232,26 @@ int VORKTRReportingBuffer::BeginSinglePage(const VORUnicodeString& iBackground)
 VORUnicodeString VORKTRReportingBuffer::ChooseBackground()
 {
     const BackgroundSetting setting = ReadBackgroundSetting();
-    VORUnicodeString code;
-    if (!setting.isStandard && CopyBackground(setting.image, code))
-        return code;
+    VORUnicodeString directory;
+    VORUnicodeString name;
+    if (setting.image && VORSplitPath(*setting.image, directory, name) >= 0 &&
+        CopyBackground(name, directory))
+        return ImageBackground(name);
+    VORUnicodeString standard = StandardBackgroundImage;
     VORUnicodeString image;
     NotedUnlessMissing(_WriteStatus,
                        VORFindPath(StandardBackgroundImage, VORGetEnv("VORGraphicPath"), image));
-    return CopyBackground(image, code) ? code : LatestBackground();
+    if (VORSplitPath(image, directory, name) >= 0 && CopyBackground(standard, directory))
+        return ImageBackground(standard);
+    return LatestBackground();
 }
 
-bool VORKTRReportingBuffer::CopyBackground(const VORUnicodeString& iImage, VORUnicodeString& oCode)
+bool VORKTRReportingBuffer::CopyBackground(VORUnicodeString& iName, VORUnicodeString& iDirectory)
 {
-    VORUnicodeString directory;
-    VORUnicodeString name;
-    if (VORSplitPath(iImage, directory, name) < 0 || directory == "" ||
-        CopyIcon(name, directory) < 0)
+    if (iDirectory == "" || CopyIcon(iName, iDirectory) < 0)
         return false;
-    oCode = ImageBackground(name);
     const std::lock_guard<std::mutex> lock(BackgroundMutex);
-    _BackgroundCode = oCode;
+    _BackgroundCode = ImageBackground(iName);
     return true;
 }
 

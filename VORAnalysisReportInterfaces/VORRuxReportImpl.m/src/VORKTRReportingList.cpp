@@ -11,7 +11,11 @@
 
 VORKTRReportingList::VORKTRReportingList(char separator) : _Separator(separator) {}
 
-VORKTRReportingList::~VORKTRReportingList() = default;
+VORKTRReportingList::~VORKTRReportingList()
+{
+    for (int i = 0; i < _Lines.GetSize(); ++i) // in their order, which not every vector keeps
+        _Lines[i].value = VORKTRValue();
+}
 
 std::string_view VORKTRReportingList::LabelOf(const Line& iLine) const
 {

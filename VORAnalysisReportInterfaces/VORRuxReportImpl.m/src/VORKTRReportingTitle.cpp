@@ -136,13 +136,14 @@ int VORKTRReportingTitle::OpenNextPage(const VORUnicodeString& iTitle, unsigned 
                                        const VORUnicodeString& iPath) const
 {
     int failure = VOR_S_OK;
+    const VORUnicodeString level = ReadLevel();
     VORUnicodeString path; // made before the close: nothing may fail between it and the open
     Noted(failure, VORMakePath(iPath, PageName(_Buffer->GetPagesNumber() + 1), path));
     Noted(failure, ClosePage(ioFile));
     ++_Buffer->GetPagesNumber();
     const int status = Noted(failure, VORFOpen(path, "w", ioFile));
     if (status >= 0) {
-        WritePageHead(ioFile, iTitle, ChoosePageBackground(iPath, failure));
+        WritePageHead(ioFile, iTitle, ChoosePageBackground(iPath, failure), level);
         _Buffer->GetIndex() = 0;
     }
     _Buffer->NoteWriteStatus(failure);

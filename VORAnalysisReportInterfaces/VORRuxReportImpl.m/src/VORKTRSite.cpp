@@ -14,13 +14,13 @@ namespace
 constexpr const char* EndOfHead = "</HEAD>\n";
 constexpr const char* EndOfFrames = "</FRAMESET>\n</HTML>\n";
 
-void AppendHeadStart(Fragment& ioPage, const VORUnicodeString& iTitle)
+void AppendHeadStart(Fragment& ioPage, const VORUnicodeString& iTitle,
+                     const VORUnicodeString& iLevel)
 {
     ioPage.Append("<HTML>\n<HEAD>\n<TITLE>", iTitle, "</TITLE>\n",
                   "<META NAME=\"Generator\" CONTENT=\"ZENOA");
-    const char* const level = VORGetEnv("WKS_FR_ZENOA");
-    if (level && !VORGetEnv("KTRReportODT"))
-        ioPage.Append(" ", level);
+    if (!VORGetEnv("KTRReportODT"))
+        ioPage.Append(iLevel);
     ioPage.Append("\">\n");
 }
 
@@ -36,9 +36,9 @@ void AppendBodyStart(Fragment& ioPage, const VORUnicodeString& iBackground,
 }
 
 void AppendPageHead(Fragment& ioPage, const VORUnicodeString& iTitle,
-                    const VORUnicodeString& iBackground)
+                    const VORUnicodeString& iBackground, const VORUnicodeString& iLevel)
 {
-    AppendHeadStart(ioPage, iTitle);
+    AppendHeadStart(ioPage, iTitle, iLevel);
     AppendStylesheetLink(ioPage, MainStylesName);
     AppendBodyStart(ioPage, iBackground);
 }
@@ -100,10 +100,10 @@ int WriteStylesheet(const VORUnicodeString& iDirectory, const char* iName, const
 }
 
 void WriteNavigationHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                         const VORUnicodeString& iBackground)
+                         const VORUnicodeString& iBackground, const VORUnicodeString& iLevel)
 {
     ShortFragment page(iFile);
-    AppendHeadStart(page, iTitle);
+    AppendHeadStart(page, iTitle, iLevel);
     page.Append("<BASE TARGET=\"TextFrame\">\n");
     AppendStylesheetLink(page, NavigationStylesName);
     AppendBodyStart(page, iBackground, " ALINK=\"#0000FF\"");
@@ -137,19 +137,25 @@ int NotedUnlessMissing(int& ioFailure, int iStatus)
     return iStatus == VOR_E_FILE_NOT_FOUND ? iStatus : Noted(ioFailure, iStatus);
 }
 
+VORUnicodeString ReadLevel()
+{
+    const char* const level = VORGetEnv("WKS_FR_ZENOA");
+    return level ? VORUnicodeString(" ").Append(level) : VORUnicodeString();
+}
+
 void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                   const VORUnicodeString& iBackground)
+                   const VORUnicodeString& iBackground, const VORUnicodeString& iLevel)
 {
     ShortFragment page(iFile);
-    AppendPageHead(page, iTitle, iBackground);
+    AppendPageHead(page, iTitle, iBackground, iLevel);
     page.Send();
 }
 
 void WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                        const VORUnicodeString& iBackground)
+                        const VORUnicodeString& iBackground, const VORUnicodeString& iLevel)
 {
     ShortFragment page(iFile);
-    AppendPageHead(page, iTitle, iBackground);
+    AppendPageHead(page, iTitle, iBackground, iLevel);
     page.Append("<P class=\"maintitle\">", iTitle, "</P>\n");
     page.Send();
 }
@@ -172,9 +178,10 @@ int OpenFrames(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitl
                const VORUnicodeString& iBackground, unsigned int& oNavigationFile,
                unsigned int& oPageFile, int& ioFailure)
 {
+    const VORUnicodeString level = ReadLevel();
     int status = WriteSiteFile(iDirectory, IndexName, ioFailure, [&](unsigned int iFile) {
         ShortFragment page(iFile);
-        AppendHeadStart(page, iTitle);
+        AppendHeadStart(page, iTitle, level);
         page.Append(EndOfHead, "\n", TwoFrames(PageName(1)), EndOfFrames);
         page.Send();
     });
@@ -184,12 +191,12 @@ int OpenFrames(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitl
     status = OpenSiteFile(iDirectory, NavigationName, oNavigationFile, ioFailure);
     if (status < 0)
         return status;
-    WriteNavigationHead(oNavigationFile, iTitle, iBackground);
+    WriteNavigationHead(oNavigationFile, iTitle, iBackground, level);
 
     status = OpenSiteFile(iDirectory, PageName(1), oPageFile, ioFailure);
     if (status < 0)
         return status;
-    WriteFirstPageHead(oPageFile, iTitle, iBackground);
+    WriteFirstPageHead(oPageFile, iTitle, iBackground, level);
     return VOR_S_OK;
 }
 
@@ -198,7 +205,7 @@ int WriteReloadPage(const VORUnicodeString& iDirectory, const VORUnicodeString& 
 {
     return WriteSiteFile(iDirectory, ReloadName, ioFailure, [&](unsigned int iFile) {
         ShortFragment page(iFile);
-        AppendHeadStart(page, iTitle);
+        AppendHeadStart(page, iTitle, ReadLevel());
         page.Append(EndOfHead, " \n");
         page.Send();
         const VORUnicodeString anchor = VORUnicodeString("#").Append(Decimal(iPlace.anchor));

@@ -22,12 +22,16 @@ int Noted(int& ioFailure, int iStatus);
 /// As above, but that there is no such file is not noted.
 int NotedUnlessMissing(int& ioFailure, int iStatus);
 
+/// What follows the generator's name in a page's head, read before the page is opened: a blank and
+/// the level that the environment sets, or nothing.
+VORUnicodeString ReadLevel();
+
 /// Each writes the beginning of a page in one write; titles and backgrounds go in as they stand.
 void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                   const VORUnicodeString& iBackground);
+                   const VORUnicodeString& iBackground, const VORUnicodeString& iLevel);
 /// The first page: head and main title.
 void WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                        const VORUnicodeString& iBackground);
+                        const VORUnicodeString& iBackground, const VORUnicodeString& iLevel);
 
 /// Ends a page and closes it. Returns the status of the close.
 int ClosePage(unsigned int iFile);
