@@ -93,25 +93,21 @@ TEST(File, AReservedHandleSwallowsAllAndTellsWhy)
 TEST(File, ThreadsGetTheHandlesThatTheyFreed)
 {
     const TemporaryDirectory directory;
-    const auto write = [&](const std::string& iName) {
-        unsigned int previous = 0;
-        for (int page = 0; page < 200; ++page) {
-            const std::string text = iName + std::to_string(page);
-            const unsigned int file = Open(directory.Path(text));
-            EXPECT_TRUE(previous == 0 || file == previous);
-            EXPECT_EQ(VORFWrite(file, text.data(), text.size(), nullptr), VOR_S_OK);
-            EXPECT_EQ(VORFClose(file), VOR_S_OK);
-            EXPECT_EQ(ReadFile(directory.Path(text)), text);
-            previous = file;
-        }
-    };
-    for (int round = 0; round < 2; ++round) {
-        std::vector<std::thread> threads;
-        for (const char* const name : {"a", "b", "c", "d"})
-            threads.emplace_back(write, name);
-        for (std::thread& thread : threads)
-            thread.join();
-    }
+    std::vector<std::thread> threads;
+    for (const std::string name : {"a", "b", "c", "d"})
+        threads.emplace_back([&directory, name] {
+            for (unsigned int page = 0, previous = 0; page < 200; ++page) {
+                const std::string text = name + std::to_string(page);
+                const unsigned int file = Open(directory.Path(text));
+                EXPECT_TRUE(page == 0 || file == previous);
+                EXPECT_EQ(VORFWrite(file, text.data(), text.size(), nullptr), VOR_S_OK);
+                EXPECT_EQ(VORFClose(file), VOR_S_OK);
+                EXPECT_EQ(ReadFile(directory.Path(text)), text);
+                previous = file;
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
     const unsigned int file = Open(NullDevice); // of a thread that has ended
     EXPECT_LE(file, 4u);
     EXPECT_EQ(VORFClose(file), VOR_S_OK);
@@ -186,6 +182,7 @@ TEST(File, CopyAndRenameReplaceFilesAlone)
     const TemporaryDirectory directory;
     const std::string source = directory.Path("source"), target = directory.Path("target");
     const std::string bytes("new\0\r\n\xFF", 7);
+    const std::string longest = directory.Path(std::string(255, 'x'));
     const auto copy = [&](const std::string& iTo, int iReplace) {
         return VORFCopy(source.c_str(), iTo.c_str(), iReplace);
     };
@@ -194,11 +191,10 @@ TEST(File, CopyAndRenameReplaceFilesAlone)
     WriteFile(source, bytes);
     EXPECT_EQ(copy(target, 0), VOR_E_FILE_EXISTS);
     EXPECT_EQ(ReadFile(target), "old and longer");
-    EXPECT_EQ(copy(target, 1), VOR_S_OK);
-    EXPECT_EQ(copy(source, 1), VOR_S_OK);
-    EXPECT_EQ(copy(directory.Path(std::string(255, 'x')), 1), VOR_S_OK);
-    EXPECT_TRUE(std::filesystem::remove(directory.Path(std::string(255, 'x'))));
+    for (const std::string& to : {target, source, longest})
+        EXPECT_EQ(copy(to, 1), VOR_S_OK);
     EXPECT_EQ(ReadFile(target) + ReadFile(source), bytes + bytes);
+    EXPECT_TRUE(std::filesystem::remove(longest));
     for (const std::string& special : {std::string(NullDevice), directory.Path()}) {
         EXPECT_EQ(copy(special, 1), VOR_E_ACCESS_DENIED);
         EXPECT_EQ(VORFCopy(special.c_str(), target.c_str(), 1), VOR_E_ACCESS_DENIED);

@@ -9,8 +9,10 @@
 #include <gtest/gtest.h>
 
 #include "ReportTest.h"
-#include "VORKTRReportTools.h"
 #include "VORKTRReportingFloat.h"
+#include "VORKTRReportingInt.h"
+#include "VORKTRReportingList.h"
+#include "VORKTRReportingTable.h"
 #include "VORStatus.h"
 #include "support/Rendering.h"
 
@@ -25,7 +27,6 @@ TEST_F(ItemsTest, KeepTheirPositionsInAReport)
     Probe stranger;
     int index = 99;
     EXPECT_EQ(report.InsertObjectAtIndex(&stranger, 0), VOR_E_FAIL);
-    EXPECT_EQ(report.GetObjectIndex(nullptr, index), VOR_E_FAIL);
     std::vector<Probe*> items;
     for (const int capacity : {5, 5, 5, 5, 5, 10, 10, 10, 10, 10}) {
         items.push_back(new Probe(-7));
@@ -37,11 +38,10 @@ TEST_F(ItemsTest, KeepTheirPositionsInAReport)
         report.RemoveObject(nullptr),   report.InsertObjectAtIndex(&stranger, -1),
         report.RemoveObject(&stranger), report.InsertObjectAtIndex(&stranger, 10),
         report.RemoveObject(-1),        report.GetObjectIndex(&stranger, index),
-        report.RemoveObject(10)};
+        report.RemoveObject(10),        report.GetObjectIndex(nullptr, index)};
     for (const int& status : refusals)
         EXPECT_EQ(status, VOR_E_FAIL) << "refusal " << &status - refusals;
-    EXPECT_EQ(index, 99);
-    EXPECT_EQ(stranger.GetBuffer(), nullptr);
+    EXPECT_TRUE(index == 99 && !stranger.GetBuffer());
 
     EXPECT_EQ(report.RemoveObject(1), -7);
     EXPECT_EQ(report.RemoveObject(1), VOR_E_FAIL);
@@ -53,30 +53,39 @@ TEST_F(ItemsTest, KeepTheirPositionsInAReport)
     EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(11, 15));
     const std::pair<Probe*, int> places[] = {{items[0], 0}, {inserted, 1}, {nullptr, 2},
                                              {items[2], 3}, {items[3], 4}, {items[9], 10}};
-    for (const auto& [item, place] : places) {
-        EXPECT_EQ(report.GetObjectIndex(item, index), 0);
-        EXPECT_EQ(index, place);
-    }
-    for (const int removed : {9, 0, 3, 2}) // wherever the search for the one before ended
-        EXPECT_EQ(report.RemoveObject(items[static_cast<std::size_t>(removed)]), -7) << removed;
+    for (const auto& [item, place] : places)
+        EXPECT_TRUE(report.GetObjectIndex(item, index) == 0 && index == place) << place;
+    for (const std::size_t removed : {9u, 0u, 3u, 2u}) // wherever the search before ended
+        EXPECT_EQ(report.RemoveObject(items[removed]), -7) << removed;
 }
 
-TEST_F(ItemsTest, AnItemHandedOverIsOwnedAlsoWhenTheCallThrows)
+TEST_F(ItemsTest, MayThrowOrBringOthersWhenTaken)
 {
     struct Refusing : Probe {
         void SetBuffer(VORKTRReportingBuffer*) override { throw std::runtime_error("refused"); }
     };
+    struct Leading : Probe {
+        void SetBuffer(VORKTRReportingBuffer* iBuffer) override { iBuffer->AddObject(first); }
+        Probe* first = new Probe;
+    };
     auto* const bag = Bag({new Probe, new Probe, new Probe, new Probe, new Probe});
-    Add({bag, new Probe, new Probe, new Probe, new Probe});
+    Add({bag, new Probe, new Probe, new Probe});
+    auto* const second = new Leading;
+    Add({second});
+    EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(6, 10));
+    int index = 0;
+    EXPECT_EQ(report.GetObjectIndex(second->first, index), 0);
+    EXPECT_EQ(index, 4);
+    Add({new Probe, new Probe, new Probe, new Probe});
     EXPECT_THROW(report.AddObject(new Refusing), std::runtime_error);
     EXPECT_THROW(report.InsertObjectAtIndex(new Refusing, 0), std::runtime_error);
     EXPECT_THROW(bag->AddObject(new Refusing), std::runtime_error);
-    EXPECT_EQ(Probe::Destroyed, 3);
-    EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(5, 5));
+    EXPECT_EQ(Probe::Destroyed, 3); // they were owned from the call on
+    EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(10, 10));
     EXPECT_EQ(Counts(bag->GetObjectNumber(), bag->GetAllocatedNumber()), Counts(5, 5));
 }
 
-TEST_F(ItemsTest, AnItemIsInItsPlaceUntilItIsGone)
+TEST_F(ItemsTest, AreInTheirPlacesUntilTheyAreGone)
 {
     struct Seeking : Probe {
         using Probe::Probe;
@@ -93,21 +102,6 @@ TEST_F(ItemsTest, AnItemIsInItsPlaceUntilItIsGone)
     EXPECT_EQ(other.RemoveObject(1), 0);
 }
 
-TEST_F(ItemsTest, AnItemMayBringAnother)
-{
-    struct Leading : Probe {
-        void SetBuffer(VORKTRReportingBuffer* iBuffer) override { iBuffer->AddObject(first); }
-        Probe* first = new Probe;
-    };
-    Add({new Probe, new Probe, new Probe, new Probe});
-    auto* const second = new Leading;
-    Add({second});
-    EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(6, 10));
-    int index = 0;
-    EXPECT_EQ(report.GetObjectIndex(second->first, index), 0);
-    EXPECT_EQ(index, 4);
-}
-
 TEST_F(ItemsTest, ABagStandsForItsChildren)
 {
     auto* const child = new Probe(0, 3);
@@ -117,7 +111,6 @@ TEST_F(ItemsTest, ABagStandsForItsChildren)
     Add({bag, Bag({new Probe(2), new Probe(-5)}), Bag({}), Bag({new Probe, Bag({new Probe})})});
     EXPECT_EQ(child->GetBuffer(), &report);
     ASSERT_EQ(Make(), 0);
-    EXPECT_EQ(child->directory, site);
 
     // A child taken now learns the directory with the next run, an item of the report at once.
     auto* const late = new Probe;
@@ -127,17 +120,17 @@ TEST_F(ItemsTest, ABagStandsForItsChildren)
     Add({added});
     EXPECT_EQ(report.InsertObjectAtIndex(inserted, 0), 0);
     EXPECT_EQ(late->GetBuffer(), &report);
-    EXPECT_EQ(late->directory + added->directory + inserted->directory, site + site);
+    EXPECT_EQ(child->directory + late->directory + added->directory, site + site);
+    EXPECT_EQ(inserted->directory, site);
     ASSERT_EQ(Make(), 0);
     EXPECT_EQ(late->directory, site);
 
-    bag->AddObject(new Probe(2));
-    EXPECT_EQ(bag->GetAllocatedNumber(), 5);
-    bag->AddObject(new Probe(4));
-    EXPECT_EQ(bag->GetAllocatedNumber(), 10);
-    EXPECT_EQ(report.RemoveObject(1), 4);
-    EXPECT_EQ(report.RemoveObject(2), -5);
-    EXPECT_EQ(report.RemoveObject(3), 0);
+    for (const int capacity : {5, 10}) {
+        bag->AddObject(new Probe(capacity));
+        EXPECT_EQ(bag->GetAllocatedNumber(), capacity);
+    }
+    for (const auto& [index, status] : {Counts(1, 10), Counts(2, -5), Counts(3, 0)})
+        EXPECT_EQ(report.RemoveObject(index), status);
     EXPECT_EQ(Counts(Probe::Removed, Probe::Destroyed), Counts(8, 8));
     VORKTRReportingBuffer().AddObject(Bag({new Probe, Bag({new Probe})}));
     EXPECT_EQ(Counts(Probe::Removed, Probe::Destroyed), Counts(8, 10));
@@ -148,19 +141,23 @@ TEST_F(ItemsTest, NewPageSaysWhyThereIsNone)
     auto* const title = Title("A", 1);
     Add({title});
     ASSERT_EQ(Make(), 0);
+    const VORUnicodeString heading("New");
+    const struct {
+        const VORUnicodeString* heading;
+        std::string directory;
+        int status, pages, index;
+    } cases[] = {{nullptr, site, VOR_E_INVALIDARG, 1, 2},
+                 {&heading, site + "/none", VOR_E_FILE_NOT_FOUND, 2, 2},
+                 {&heading, site, 0, 3, 0}};
     unsigned int file = 0;
     ASSERT_EQ(VORFOpen((site + "/old.html").c_str(), "w", file), 0);
-    const unsigned int open = file;
-    EXPECT_EQ(title->NewPage(nullptr, file, site.c_str()), VOR_E_INVALIDARG);
-    EXPECT_EQ(Counts(report.GetPagesNumber(), report.GetIndex()), Counts(1, 2));
-    EXPECT_EQ(file, open);
-    const VORUnicodeString heading("New");
-    EXPECT_LT(title->NewPage(&heading, file, (site + "/none").c_str()), 0);
-    EXPECT_EQ(Counts(report.GetPagesNumber(), report.GetIndex()), Counts(2, 2));
-    EXPECT_EQ(Page("old.html"), "</BODY>\n</HTML>\n");
-    EXPECT_EQ(title->NewPage(&heading, file, site.c_str()), 0);
-    EXPECT_EQ(Counts(report.GetPagesNumber(), report.GetIndex()), Counts(3, 0));
+    for (const auto& one : cases) {
+        EXPECT_EQ(title->NewPage(one.heading, file, one.directory.c_str()), one.status);
+        EXPECT_EQ(Counts(report.GetPagesNumber(), report.GetIndex()), Counts(one.pages, one.index));
+        EXPECT_EQ(file != 0, one.pages != 2);
+    }
     EXPECT_EQ(VORFClose(file), 0);
+    EXPECT_EQ(Page("old.html"), "</BODY>\n</HTML>\n");
     EXPECT_EQ(Page("page3.html").rfind("<HTML>\n<HEAD>\n<TITLE>New</TITLE>\n", 0), 0u);
 }
 
@@ -174,30 +171,44 @@ TEST_F(ItemsTest, ATitleWithoutReportIsFatal)
     EXPECT_DEATH(title.NewPage(nullptr, file, ""), error + "129");
 }
 
-TEST_F(ItemsTest, FloatsAlwaysHoldAPointAndKeepTheirBound)
+TEST_F(ItemsTest, NumbersLookTheSameByThemselvesAndInTables)
 {
+    const std::string blanks(25, ' ');
     const struct {
         float value;
         const char* format;
         std::string text;
-    } cases[] = {
+    } floats[] = {
         {-0.f, "%g", " -0."},
         {1e7f, "%g", " 1.e+07"},
         {3, "%+05.0f", " +0003."},
         {std::nanf(""), "%g", ".nan"},
         {-HUGE_VALF, "%g", "-.inf"},
         {3, "%g mm", " 3 .mm"},
-        {3, "x=%g", " .x=3"},
         {-2.5f, "%g %g", "-2.5"},
-        {2.5f, "%28.1f", " " + std::string(25, ' ') + "2.5"},
-        {-2.5f, "%29.1f", std::string(25, ' ') + "-2.5"},
-        {3, "%27.0f", " " + std::string(26, ' ') + "3."},
+        {-2.5f, "%29.1f", blanks + "-2.5"},
+        {3, "%27.0f", "  " + blanks + "3."},
         {3, "%28.0f", " 3."},
         {1e30f, "%f", " 1.00000002e+30"},
+        {1.5f, "%A", " 0X1.8P+0"},
     };
+    const std::pair<const char*, std::string> ints[] = {
+        {"%i", "42"}, {"%#x", "0x2a"}, {"%c", "*"}, {"%-4d|", "42  |"}, {"%d%d", "42"}};
     ASSERT_TRUE(std::setlocale(LC_ALL, CommaLocale)) << "this locale must be installed";
-    for (const auto& one : cases)
-        EXPECT_EQ(HtmlOf(VORKTRReportingFloat(one.value, one.format)), one.text) << one.format;
+    VORKTRReportingTable table(0x10);
+    std::string cells;
+    for (const auto& [value, format, text] : floats) {
+        EXPECT_EQ(HtmlOf(VORKTRReportingFloat(value, format)), text) << format;
+        table.SetFloat(0, table.GetColumnNumber(), value, format);
+        cells += "<TD ALIGN=RIGHT>" + text + "</TD>\n";
+    }
+    for (const auto& [format, text] : ints) {
+        EXPECT_EQ(HtmlOf(VORKTRReportingInt(42, format)), text) << format;
+        table.SetInt(0, table.GetColumnNumber(), 42, format);
+        cells += "<TD ALIGN=CENTER>" + text + "</TD>\n";
+    }
+    EXPECT_EQ(HtmlOf(table),
+              "<P>\n\n<TABLE BORDER=0 CELLPADDING=5>\n<TR>\n" + cells + "</TR>\n</TABLE>\n</P>\n");
     char text[VORKTRReportingFloat::TextSize];
     EXPECT_EQ(VORKTRReportingFloat::WriteText(1e15 / 3, VORFloatFormat("%.20f"), text), 19);
     EXPECT_STREQ(text, " 333333333333333.31");
@@ -210,20 +221,62 @@ TEST_F(ItemsTest, EscapesWhateverItsPlaceInAText)
                                                  {'>', "&gt;"},
                                                  {'\n', "<BR>\n"},
                                                  {'\t', "<TT>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;</TT>"}};
-    for (int code = 0; code < 256; ++code) {
-        const auto one = static_cast<char>(code);
-        std::string text, html;
-        for (std::size_t place = 0; place < 33; ++place) {
-            text.assign(33 + place % 3, '=');
-            text[place] = text.back() = one;
-            html.clear();
-            for (const char c : text)
-                html += escapes.count(c) ? escapes.at(c) : std::string(1, c);
-            VORUnicodeString escaped;
-            VORKTRReportTools::AppendEscaped(escaped, text);
-            ASSERT_EQ(escaped.ToString(), html) << code << " " << place;
-        }
-        ASSERT_EQ(HtmlOf(VORKTRReportingText(text)), "<p>" + html + "</p>\n") << code;
+    for (int code = 1; code < 256; ++code) {
+        const std::string one(1, static_cast<char>(code));
+        const auto found = escapes.find(one[0]);
+        const std::string& html = found == escapes.end() ? one : found->second;
+        std::string expected;
+        const std::string page = Written([&](unsigned int iFile) {
+            for (int place = 0; place < 33; ++place) {
+                const std::string before = Repeat(place, "="), after = Repeat(35 - place, "=");
+                const std::string text = before + one + after + one;
+                VORKTRReportingText(text).Report(iFile, "", 0, 0);
+                expected += "<p>" + before + html + after + html + "</p>\n";
+            }
+        });
+        ASSERT_EQ(page, expected) << code;
+    }
+}
+
+VORKTRReportingObj* InBag(VORKTRReportingObj* iItem)
+{
+    return Bag({iItem});
+}
+
+VORKTRReportingObj* InTable(VORKTRReportingObj* iItem)
+{
+    auto* const table = new VORKTRReportingTable(0);
+    table->SetObj(0, 0, iItem);
+    return table;
+}
+
+VORKTRReportingObj* InList(VORKTRReportingObj* iItem)
+{
+    auto* const list = new VORKTRReportingList('=');
+    list->addLine("", iItem, "");
+    return list;
+}
+
+TEST_F(ItemsTest, NestTwoThousandDeepOnAUsualStack)
+{
+    constexpr int depth = 2000;
+    const struct {
+        VORKTRReportingObj* (*wrap)(VORKTRReportingObj*);
+        const char *before, *after, *last; // what each level adds to the text, and all of them
+        int width;
+    } cases[] = {
+        {InBag, "", "", "", 0}, {InTable, " ", " ", "\n", 2}, {InList, "   ", "\n", "", 3}};
+    for (const auto& one : cases) {
+        VORKTRReportingObj* item = Text("x");
+        for (int level = 0; level < depth; ++level)
+            item = one.wrap(item);
+        Add({item});
+        EXPECT_EQ(item->GetWidthInChar(), 1 + depth * one.width);
+        EXPECT_EQ(CellTextOf(*item),
+                  Repeat(depth, one.before) + "x" + Repeat(depth, one.after) + one.last);
+        EXPECT_EQ(Make(), 0);
+        EXPECT_NE(Page("index.html").find(">x</"), std::string::npos);
+        EXPECT_EQ(report.RemoveObject(item), 0);
     }
 }
 

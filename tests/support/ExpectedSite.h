@@ -23,13 +23,6 @@ inline std::map<std::string, std::string> ReadTree(const std::filesystem::path& 
     return files;
 }
 
-/// What follows the opening tag of a page's body; empty without a body.
-inline std::string BodyOf(const std::string& iPage)
-{
-    const std::size_t body = iPage.find("<BODY ");
-    return body == std::string::npos ? "" : iPage.substr(iPage.find('\n', body) + 1);
-}
-
 /// Expects a written directory to hold exactly the files of tests/expected/<iScenario>. When it
 /// does not, what was written is kept as <iScenario> in the build's tests/actual, to look at and to
 /// accept.

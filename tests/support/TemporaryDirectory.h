@@ -46,6 +46,13 @@ inline std::string ReadFile(const std::string& iPath)
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
+/// What follows the opening tag of a page's body; empty without a body.
+inline std::string BodyOf(const std::string& iPage)
+{
+    const std::size_t body = iPage.find("<BODY ");
+    return body == std::string::npos ? "" : iPage.substr(iPage.find('\n', body) + 1);
+}
+
 inline void WriteFile(const std::string& iPath, const std::string& iText)
 {
     std::ofstream file(iPath, std::ios::binary);

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include "SetEnv.h"
 #include "VORFile.h"
 #include "VORKTRReportTools.h"
 #include "VORKTRReportingBag.h"
@@ -58,8 +57,6 @@ Item* Add(VORKTRReportingBuffer& ioReport, Item* iItem)
 
 Program::Program(const std::string& iRoot) : _Root(iRoot)
 {
-    SetEnv("KTRReportODT", "1");
-    SetEnv("VORGraphicPath", (_Root + "/images").c_str());
     VORKTRReportTools::InitFigureNumber();
     const auto path = [&](const char* iName) { return _Root + "/" + iName; };
     const auto file = [&](VORKTRReportingFileType iType, const char* iName) {

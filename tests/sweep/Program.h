@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+#include "SetEnv.h"
 #include "VORKTRReportingBuffer.h"
 
 class OwnFile;
@@ -16,6 +17,13 @@ inline const Files Sources = {{"a.gif", "an image, removed"},
                               {"b.wrl", "a scene"},
                               {"c.wav", "a sound, taken late"},
                               {"images/Corp.gif", "the background"}};
+
+/// What the program reads of the environment: names without a time stamp, a folder of images.
+inline void PrepareEnvironment(const std::string& iImages)
+{
+    SetEnv("KTRReportODT", "1");
+    SetEnv("VORGraphicPath", iImages.c_str());
+}
 
 /// What an application does: a report of every kind of item, written with frames into "site" and as
 /// text, then changed and written as one page into "single", with files moved, copied and removed,

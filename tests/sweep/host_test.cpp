@@ -21,6 +21,7 @@ Files ReadRoot()
 
 Outcome RunProgram(int iOperation, bool iForGood)
 {
+    PrepareEnvironment("root/images");
     VORHostDisk::Clear();
     for (const auto& [name, bytes] : Sources)
         VORHostDisk::PutFile("root/" + name, bytes);

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "Program.h"
-#include "SetEnv.h"
 #include "VORKTRReportingList.h"
 #include "VORKTRReportingTable.h"
 #include "support/ExpectedSite.h"
@@ -30,6 +29,7 @@ Outcome RunProgram(int iAllocation, bool iForGood)
     for (const auto& [name, bytes] : Sources)
         WriteFile(root.Path(name), bytes);
     const std::string path = root.Path();
+    PrepareEnvironment(path + "/images");
     Outcome outcome;
     int filled = INT_MAX; // allocations until all items were made
     int read = 0;         // allocated by the test itself
