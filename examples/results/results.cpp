@@ -1,12 +1,12 @@
 // Publishes the results of a solver from a table of comma-separated values.
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <sstream>
 #include <stdexcept>
-#include <string>
 #include <vector>
 
 #include "VORKTRArrayTable.h"
@@ -22,59 +22,63 @@ namespace
 {
 
 struct Column {
-    std::string name;
-    std::string unit = {};
-    std::vector<std::string> fields = {};
-    std::vector<double> numbers = {}; // of the fields when all of them are numbers, else none
-    std::string format = {};          // shows the digits that the fields have
+    explicit Column(const std::string& iHead) : name(iHead.substr(0, iHead.find(" [")))
+    {
+        if (name.size() < iHead.size())
+            unit = iHead.substr(name.size() + 2, iHead.find(']') - name.size() - 2);
+    }
+
+    std::string name, unit;
+    std::vector<std::string> fields;
+    std::vector<double> numbers; // of the fields when all of them are numbers, else none
+    std::string format;          // of plain numbers; others are shown as they stand
 };
 
 std::vector<std::string> Split(const std::string& iLine)
 {
     std::vector<std::string> fields;
     std::istringstream line(iLine + ",");
-    for (std::string field; std::getline(line, field, ',');) {
-        field.erase(0, field.find_first_not_of(" \t\r"));
-        fields.push_back(field.erase(field.find_last_not_of(" \t\r") + 1));
-    }
+    for (std::string field; std::getline(line >> std::ws, field, ',');)
+        fields.push_back(field.substr(0, field.find_last_not_of(" \t\r") + 1));
     return fields;
 }
 
 void ParseNumbers(Column& ioColumn)
 {
     std::size_t decimals = 0;
-    char kind = 'f';
+    bool isPlain = true; // and has no more digits than a double keeps
     for (const std::string& field : ioColumn.fields) {
         char* end = nullptr;
         ioColumn.numbers.push_back(std::strtod(field.c_str(), &end));
-        if (field.empty() || *end != '\0')
+        if (field.empty() || *end != '\0' || std::isnan(ioColumn.numbers.back()))
             return ioColumn.numbers.clear();
-        const std::size_t digits = std::min(field.find_first_of("eE"), field.size());
-        decimals = std::max(decimals, digits - 1 - std::min(field.find('.'), digits - 1));
-        kind = digits < field.size() ? 'e' : kind;
+        const std::size_t point = std::min(field.find('.'), field.size() - 1);
+        decimals = std::max(decimals, field.size() - 1 - point);
+        isPlain &= field.find_first_not_of("-.0123456789") == field.npos && field.size() <= 15;
     }
-    ioColumn.format = "%." + std::to_string(decimals) + kind;
+    ioColumn.format = isPlain ? "%." + std::to_string(decimals) + "f" : "";
 }
 
 std::vector<Column> ReadTable(const std::string& iPath)
 {
     std::ifstream file(iPath);
-    std::string line;
-    if (!std::getline(file, line))
-        throw std::runtime_error(iPath + ": cannot be read");
     std::vector<Column> columns;
-    for (const std::string& head : Split(line)) {
-        const std::size_t name = std::min(head.find(" ["), head.size());
-        const std::size_t unit = std::min(name + 2, head.size());
-        columns.push_back({head.substr(0, name), head.substr(unit, head.find(']') - unit)});
-    }
-    for (int number = 2; std::getline(file, line); ++number) {
+    std::string line;
+    for (int number = 1; std::getline(file, line); ++number) {
+        if (line.compare(0, 3, "\xEF\xBB\xBF") == 0)
+            line.erase(0, 3); // which some programs put in front of UTF-8
         const std::vector<std::string> fields = Split(line);
-        if (fields.size() < columns.size())
-            throw std::runtime_error(iPath + ":" + std::to_string(number) + ": too few fields");
-        for (std::size_t i = 0; i < columns.size(); ++i)
-            columns[i].fields.push_back(fields[i]);
+        if (columns.empty())
+            columns = std::vector<Column>(fields.begin(), fields.end());
+        else if (fields.size() == columns.size() && line.find('"') == line.npos)
+            for (std::size_t i = 0; i < columns.size(); ++i)
+                columns[i].fields.push_back(fields[i]);
+        else if (fields != std::vector<std::string>{""})
+            throw std::runtime_error(iPath + ":" + std::to_string(number) +
+                                     ": not one field, without quotes, for each column");
     }
+    if (columns.empty())
+        throw std::runtime_error(iPath + ": cannot be read or is empty");
     std::for_each(columns.begin(), columns.end(), ParseNumbers);
     return columns;
 }
@@ -82,19 +86,17 @@ std::vector<Column> ReadTable(const std::string& iPath)
 /// The extremes of the numeric columns, each with the first field of its row: where it is.
 std::vector<Column> Summarise(const std::vector<Column>& iColumns)
 {
-    std::vector<Column> summary{{"result"}, {"unit"}, {"minimum"}, {"at"}, {"maximum"}, {"at"}};
-    for (auto column = iColumns.begin() + 1; column != iColumns.end(); ++column) {
-        const std::vector<double>& numbers = column->numbers;
-        const auto [low, high] = std::minmax_element(numbers.begin(), numbers.end());
-        if (numbers.empty())
+    const std::string heads[] = {"result", "unit", "minimum", "at", "maximum", "at"};
+    std::vector<Column> summary(std::begin(heads), std::end(heads));
+    const auto& places = iColumns.front().fields;
+    for (const auto& [name, unit, fields, numbers, format] : iColumns) {
+        if (numbers.empty() || &fields == &places)
             continue;
-        summary[0].fields.push_back(column->name);
-        summary[1].fields.push_back(column->unit);
-        for (const std::size_t at : {2u, 4u}) {
-            const auto row = static_cast<std::size_t>((at == 2 ? low : high) - numbers.begin());
-            summary[at].fields.push_back(column->fields[row]);
-            summary[at + 1].fields.push_back(iColumns.front().fields[row]);
-        }
+        const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
+        const auto low = least - numbers.begin(), high = most - numbers.begin();
+        auto column = summary.begin();
+        for (const auto& text : {name, unit, fields[low], places[low], fields[high], places[high]})
+            column++->fields.push_back(text);
     }
     return summary;
 }
@@ -106,10 +108,8 @@ VORKTRTableCaption& AddTable(VORKTRReportingBuffer& ioReport, const char* iCapti
     auto* const table = new VORKTRArrayTable(VORKTRTableHeaderRow | VORKTRTableRuled,
                                              static_cast<int>(iColumns.front().fields.size()));
     for (const auto& [name, unit, fields, numbers, format] : iColumns) {
-        if (numbers.empty())
-            table->AddColumn(name, unit, fields.data());
-        else
-            table->AddColumn(name, unit, numbers.data(), format.c_str());
+        format.empty() ? table->AddColumn(name, unit, fields.data())
+                       : table->AddColumn(name, unit, numbers.data(), format.c_str());
     }
     ioReport.AddObject(caption);
     ioReport.AddObject(table);
@@ -124,7 +124,7 @@ void Publish(const std::string& iTable, const std::string& iDirectory)
     report.AddObject(new VORKTRCharset);
     report.AddObject(new VORKTRLook);
     report.AddObject(new VORKTRHeading("Summary", 1));
-    const auto& extremes = AddTable(report, "Extremes of the results", summary);
+    const auto& extremes = AddTable(report, "Extremes of the columns of numbers", summary);
     report.AddObject(new VORKTRHeading("All results", 1));
     report.AddObject(&(new VORKTRProse("The extremes are in "))->AddLink(extremes).Add("."));
     AddTable(report, "All results", columns);
