@@ -319,8 +319,9 @@ Chapter MakeModelChapter(const Model& iModel, const std::string& iScenePath)
     AddBars(*chapter, iModel);
     AddTitle(*chapter, "Scene", 2);
     AddText(*chapter,
-            "Figure 1 is the structure as a scene for a VRML viewer. The radii of the bars "
-            "are in proportion to each other, but not to scale.");
+            "Below, as figure 1, is the structure as a scene for a VRML viewer; a browser "
+            "without one leaves the place empty and has the file as [Full page]. The radii of the "
+            "bars are in proportion to each other, but not to scale.");
     chapter->AddObject(new VORKTRReportingFile(VORKTRReportingVRML, iScenePath.c_str()));
     return chapter;
 }
