@@ -42,14 +42,14 @@ export function launchFirefox() {
 export function launch() {
   return playwright.chromium.launch({
     executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
-    args: [
-      "--no-sandbox",
-      "--disable-gpu",
-      "--disable-quic",
-      "--no-first-run",
-      "--disable-background-networking",
-      "--disable-component-update",
-      "--disable-sync",
-    ],
+    args: ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+      "--disable-component-update", "--disable-sync"],
   });
 }
+
+// Is an element within the window?
+export const inSight = (element) =>
+  element.evaluate((e) => {
+    const { top, bottom } = e.getBoundingClientRect();
+    return top >= -1 && bottom <= innerHeight + 1;
+  });

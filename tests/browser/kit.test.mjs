@@ -1,19 +1,13 @@
 import assert from "node:assert/strict";
 import { spawnSync } from "node:child_process";
 import { after, before, test } from "node:test";
-import { launch, launchFirefox, serve } from "./browser.mjs";
+import { inSight, launch, launchFirefox, serve } from "./browser.mjs";
 
 const sites = process.env.SITES;
 const browsers = { Chromium: launch, Firefox: launchFirefox };
 let server;
 before(async () => (server = await serve(sites, "")));
 after(() => server.close());
-
-const inSight = (element) =>
-  element.evaluate((e) => {
-    const { top, bottom } = e.getBoundingClientRect();
-    return top >= -1 && bottom <= innerHeight + 1;
-  });
 
 // What reaches out of the page to the right, of the elements that a selector finds.
 const tooWide = (page, selector) =>

@@ -16,8 +16,6 @@
 #include "VORKTRReportTools.h"
 #include "VORKTRReportingBuffer.h"
 #include "VORKTRReportingFile.h"
-#include "VORKTRReportingList.h"
-#include "VORKTRReportingTable.h"
 #include "VORKTRReportingText.h"
 #include "VORKTRReportingTitle.h"
 #include "VORKTRTableCaption.h"
@@ -39,38 +37,15 @@ void WriteFile(const std::string& iPath, std::string_view iBytes)
     std::ofstream(iPath, std::ios::binary) << iBytes;
 }
 
-VORKTRReportingList* MakeList()
-{
-    auto* const list = new VORKTRReportingList(':');
-    list->addLine("Stress \u03c3", 12.5f, "N/mm\u00b2", "%.2f");
-    list->addLine("Cycles", 400, "", "%d");
-    list->addLine("Material", "<S355> & co", "");
-    return list;
-}
-
-VORKTRReportingTable* MakeTable()
-{
-    auto* const table = new VORKTRReportingTable(VORKTRTableHeaderRow | VORKTRTableRuled);
-    table->SetText(0, 0, "Node");
-    table->SetText(0, 1, "Displacement [\u00b5m]");
-    table->SetText(1, 0, "A<1> & \u03b1");
-    table->SetFloat(1, 1, -0.25f, "%.3f");
-    table->SetInt(2, 0, 7, "%03d");
-    return table;
-}
-
 void AddChapter(VORKTRReportingBuffer& ioReport, const VORUnicodeString& iHeading)
 {
     ioReport.AddObject(new VORKTRReportingTitle(iHeading, 1));
     ioReport.AddObject(
         new VORKTRReportingText("a < b &lt; c > d\ttab\nsecond line: 20 \u00b0C, \u56f3"));
-    ioReport.AddObject(MakeList());
-    ioReport.AddObject(new VORKTRReportingTitle("Details of " + iHeading, 3));
     // Long enough to scroll: a heading at the end is out of sight first.
     for (int i = 0; i < 60; ++i)
         ioReport.AddObject(new VORKTRReportingText("A paragraph between two headings."));
-    ioReport.AddObject(new VORKTRReportingTitle("Tables of " + iHeading, 4));
-    ioReport.AddObject(MakeTable());
+    ioReport.AddObject(new VORKTRReportingTitle("End of " + iHeading, 4));
 }
 
 bool WriteSite(const std::string& iDirectory, int iChapters)

@@ -69,7 +69,8 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     // The longest parts of a path that later pages name.
     const std::string dots = images + Repeat((256 - static_cast<int>(images.size())) / 2, "/.");
     const std::string directory = dots + std::string(256 - dots.size(), '/');
-    const std::string name(256, 'n');
+    const std::string name(256, 'n'), longest = directory + "/" + name;
+    const std::string longNamed = "BACKGROUND=\"" + name + "\"";
     // In this order: the background copied last stays that of first pages.
     const struct {
         VORComponentFactory settings;
@@ -86,13 +87,8 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
         {New<Settings>, {0, 0, 0, "paper.png"}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, images + "/"}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, missing}, false, colour, named, ""},
-        {New<Settings>,
-         {0, 0, 0, directory + "/" + name},
-         false,
-         colour,
-         "BACKGROUND=\"" + name + "\"",
-         ""},
-        {New<Settings>, {0, 0, 0, directory + "/" + name + "n"}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, longest}, false, colour, longNamed, ""},
+        {New<Settings>, {0, 0, 0, longest + "n"}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, directory + "//" + name}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, paper}, true, user, user, "paper.png"},
         {New<Settings>, {0, 0, 0, missing}, false, user, named, ""},

@@ -58,13 +58,11 @@ TEST_F(IncludedFile, IsMovedOnceItCanBe)
     Send(item);
     item->SetBuffer(&report);
     fs::create_directory(site + "/file2.gif");
-    Send(item); // the target cannot be written
-    item->SetBufferData(nullptr);
+    Send(item)->SetBufferData(nullptr); // the target cannot be written
     EXPECT_EQ(HtmlOf(*item), Embedded(path));
     EXPECT_EQ(ReadFile(path), "new");
-    Send(item);
-    const VORUnicodeString other(temporary.Path().c_str());
-    item->SetBufferData(&other);
+    const VORUnicodeString other(temporary.Path());
+    Send(item)->SetBufferData(&other);
     EXPECT_EQ(HtmlOf(*item), Embedded("file3.gif"));
     EXPECT_EQ(Page("file3.gif"), "new");
     EXPECT_EQ(report.GetIncludedFilesNumber(), 3);
@@ -79,10 +77,8 @@ TEST_F(IncludedFile, IsDeletedWithItsItem)
     EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
     EXPECT_EQ(report.RemoveObject(0), Failure);
     EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
-    EXPECT_EQ(report.RemoveObject(1), 0);
-    EXPECT_EQ(report.RemoveObject(2), 0);
-    EXPECT_FALSE(fs::exists(site + "/file2.gif"));
-    EXPECT_FALSE(fs::exists(temporary.Path("own.gif")));
+    EXPECT_EQ(report.RemoveObject(1) + report.RemoveObject(2), 0);
+    EXPECT_FALSE(fs::exists(site + "/file2.gif") || fs::exists(temporary.Path("own.gif")));
 }
 
 TEST_F(IncludedFile, ShowsItsKind)

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -100,17 +102,17 @@ TEST_F(SiteTest, UpdateRewritesTheSiteInPlace)
 TEST_F(SiteTest, UpdateDeletesThePagesWhoseCharacterItCountsTo)
 {
     ASSERT_EQ(Make(), 0);
-    const std::pair<int, std::string> cases[] = {
-        {45, ".0129:"}, {48, "129:"}, {49, "29:"}, {57, ":"}, {58, ""}};
-    for (const auto& [pages, left] : cases) {
-        for (const char* const name : {".", "0", "1", "2", "9", ":", "10"})
+    for (const auto& [pages, left] :
+         {std::pair(45, ".0129:"), {48, "129:"}, {49, "29:"}, {57, ":"}, {58, ""}}) {
+        const std::string names = ".0129:";
+        std::string found;
+        for (const char name : names)
             WriteFile(site + "/page" + name + ".html", "");
         report.GetPagesNumber() = pages;
         EXPECT_EQ(report.Update(), 0);
-        EXPECT_TRUE(fs::exists(site + "/page10.html"));
-        for (const char name : std::string(".0129:"))
-            EXPECT_EQ(fs::exists(site + "/page" + name + ".html"), left.find(name) != left.npos)
-                << name << " of " << pages;
+        std::copy_if(names.begin(), names.end(), std::back_inserter(found),
+                     [&](char iName) { return fs::exists(site + "/page" + iName + ".html"); });
+        EXPECT_EQ(found, left) << pages;
     }
 }
 
@@ -145,8 +147,11 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
     for (const int status :
          {report.BeginReport(), report.Flush(), report.FinishReport(), report.Update()})
         EXPECT_EQ(status, VOR_E_FAIL);
-    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
-    EXPECT_EQ(report.TakeWriteStatus(), 0);
+    for (const int status : {VOR_E_FILE_NOT_FOUND, VOR_S_OK})
+        EXPECT_EQ(report.TakeWriteStatus(), status);
+    for (const int status : {VOR_S_OK, VOR_E_INVALIDARG, VOR_E_FAIL})
+        report.NoteWriteStatus(status);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_INVALIDARG);
     EXPECT_EQ(report.MakeReport(temporary.Path("no/parent").c_str(), ""), VOR_E_FAIL);
     const std::pair<std::string, int> cases[] = {{"main.css", 1},        {"index.html", 1},
                                                  {"navigation.css", 2},  {"index.html", 2},
@@ -165,23 +170,19 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
         written += Bodies(site) + "\n";
     }
     EXPECT_EQ(written, Expected("failed_runs.txt"));
-}
 
-TEST_F(SiteTest, ARunClosesThePagesThatAFailedOneLeftOpen)
-{
-    Add({Title("One", 1), Title("Two", 1)});
-    fs::create_directories(site + "/page1.html");
-    EXPECT_EQ(Make(), VOR_E_FAIL);
     auto* const late = new Probe;
+    Add({Title("One", 1), Title("Two", 1)});
+    EXPECT_EQ(Make(), VOR_E_FAIL); // page1.html is still in its way
     Add({late});
     EXPECT_EQ(late->directory, ""); // told by the run that gets to its items
     fs::remove(site + "/page1.html");
     EXPECT_EQ(Make(), 0);
     EXPECT_EQ(late->directory, site);
-    unsigned int files[3]; // in a process of its own the lowest numbers are free again
-    for (unsigned int& file : files)
+    for (unsigned int expected = 3, file = 0; expected > 0; --expected) { // closed by that run
         ASSERT_EQ(VORFOpen(NullDevice, "w", file), 0);
-    EXPECT_EQ(files[0] + files[1] + files[2], 1u + 2u + 3u);
+        EXPECT_LE(file, 3u);
+    }
 }
 
 } // namespace

@@ -53,14 +53,13 @@ TEST_F(TextReport, NumbersAreTheSameInEveryLocale)
     table->SetFloat(0, 1, -2.5, "%8.2f mm");
     Add({text, list, table, new VORKTRReportingInt(7, "%s"),
          new VORKTRReportingFloat(-1.5f, "%g")});
-    SetEnv("KTRReportODT", "1");
     ASSERT_TRUE(std::setlocale(LC_ALL, CommaLocale)) << "this locale must be installed";
     EXPECT_EQ(VORKTRReportingList::float_separator(), ',');
     VORUnicodeString plain;
     report.MakeTextReport("", plain);
     EXPECT_EQ(plain.ConvertToChar(), Expected("numbers.txt"));
     EXPECT_EQ(Make("Numbers"), 0);
-    EXPECT_EQ(Page("index.html"), Expected("numbers.html"));
+    EXPECT_EQ(BodyOf(Page("index.html")), BodyOf(Expected("numbers.html")));
     EXPECT_STREQ(std::localeconv()->decimal_point, ",") << "the process has lost its locale";
     VORUnicodeString sum("a€b€");
     VORKTRReportingText::ReplaceAllOccurrences(sum, "€", "€a");

@@ -1,6 +1,6 @@
-// Takes the pictures of the documentation: node screenshots.mjs SITES IMAGES
+// Takes the pictures of the documentation: node scripts/screenshots.mjs SITES IMAGES
 
-import { launch, serve } from "./browser.mjs";
+import { launch, serve } from "../tests/browser/browser.mjs";
 
 const [sites, images] = process.argv.slice(2);
 const server = await serve(sites);
