@@ -24,7 +24,8 @@ std::size_t Below(std::size_t iEnd)
 
 int Between(int iFirst, int iLast)
 {
-    return iFirst + static_cast<int>(Below(static_cast<std::size_t>(iLast - iFirst + 1)));
+    const auto count = static_cast<std::size_t>(std::int64_t{iLast} - iFirst + 1);
+    return static_cast<int>(iFirst + static_cast<std::int64_t>(Below(count)));
 }
 
 template <typename Values>

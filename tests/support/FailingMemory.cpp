@@ -45,7 +45,19 @@ int FailingMemory::GetLiving()
     return Living;
 }
 
-// The other forms end in these, but for sanitizers, which have arrays of their own.
+// The other forms end in these. Arrays do so too, but not where a sanitizer has its own.
+void* operator new[](std::size_t iSize)
+{
+    return operator new(iSize);
+}
+void operator delete[](void* iPlace) noexcept
+{
+    operator delete(iPlace);
+}
+void operator delete[](void* iPlace, std::size_t) noexcept
+{
+    operator delete(iPlace);
+}
 void* operator new(std::size_t iSize)
 {
     if (void* const place = Allocate(iSize))
