@@ -38,7 +38,7 @@ public:
     /// Sets oPath to the full path of the user's background image (UTF-8); a bare file name is
     /// ignored. Called only when GetDefaultBackground gave 0. On a negative status the first page
     /// takes the standard image, else the background of the process so far, later pages the plain
-    /// colour.
+    /// colour, as they do where the directory or the name is longer than 256 bytes.
     virtual int GetBackgroundPath(VORUnicodeString& oPath) = 0;
 
 private:

@@ -76,8 +76,9 @@ public:
     int MakeReport(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle);
 
     /// Rewrites the site after items were added or removed. Page numbers start at 1 again; pages
-    /// beyond those of the new site stay on disk, but for "page0.html" to "page9.html" as far as
-    /// the old site reached the page numbers 48 to 57. Anchors of the first page, file and figure
+    /// beyond those of the new site stay on disk, but for those named by a character whose code is
+    /// at most the old number of pages: "page0.html" (48) to "page9.html", "pageA.html" (65) and so
+    /// on. Anchors of the first page, file and figure
     /// numbers go on. Fails before the first MakeReport.
     int Update();
 

@@ -47,7 +47,7 @@ public:
     /// Makes room for one more line.
     void Reallocate() { _Lines.Reallocate(); }
 
-    /// The decimal separator of the C locale in use; report texts themselves always use '.'.
+    /// The decimal separator of the locale that the program has set; a report's texts have '.'.
     static char float_separator();
 
     /// Widths of the three columns in characters.

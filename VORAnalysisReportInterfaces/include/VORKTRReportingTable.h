@@ -17,9 +17,9 @@ constexpr unsigned long VORKTRTableRuled = 0x08;
 constexpr unsigned long VORKTRTableNotCentered = 0x10;
 /// @}
 
-/// A grid of cells, each an item or empty. Rows and columns count from 0; the grid grows to hold
-/// each cell that is set. In HTML floats are right-aligned, all else is centred; as text every cell
-/// is centred in its column.
+/// A grid of cells, each a number, a text, an item or empty. Rows and columns count from 0; the
+/// grid grows to hold each cell that is set. In HTML floats are right-aligned, all else is centred;
+/// as text every cell is centred in its column.
 class VORKTR_EXPORT VORKTRReportingTable : public VORKTRReportingObj
 {
 public:
@@ -29,8 +29,8 @@ public:
 
     /// @{ Sets a cell to a number in the printf format (see VORKTRReportingInt and
     /// VORKTRReportingFloat) or to a text. An item that was there is destroyed. A double is
-    /// converted to float. Returns 0, or 0x80004005 for a negative row or column; without memory
-    /// for its item, a cell is empty.
+    /// converted to float. Returns 0, or 0x80004005 for a negative row or column; a value that
+    /// memory lacks for leaves its cell empty.
     int SetInt(int row, int col, int value, const char* format);
     int SetFloat(int row, int col, float value, const char* format);
     int SetFloat(int row, int col, double value, const char* format);

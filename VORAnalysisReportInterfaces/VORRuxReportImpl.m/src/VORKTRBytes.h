@@ -12,11 +12,6 @@ inline std::string_view BytesOf(const VORUnicodeString& iText)
     return {iText.ConvertToChar(), static_cast<std::size_t>(iText.GetLengthInByte())};
 }
 
-inline VORUnicodeString UnicodeOf(std::string_view iBytes)
-{
-    return VORUnicodeString(iBytes.data(), static_cast<int>(iBytes.size()));
-}
-
 /// Length of narrow text in characters.
 inline int CountChars(std::string_view iText)
 {

@@ -10,8 +10,9 @@
 // The page of the plain-text report.
 
 constexpr int PageWidth = 80;
-constexpr int FrameInnerWidth = 76;             // between the bars of a framed line
-constexpr int FrameWidth = FrameInnerWidth + 2; // of its rules, behind one blank
+constexpr int FrameWidth = PageWidth - 2;       // of a frame's rules, behind one blank
+constexpr int FrameInnerWidth = FrameWidth - 2; // between the bars of a framed line
+constexpr int LongestBannerTitle = FrameInnerWidth - 2;
 
 /// A run of one character; empty when the count is not positive.
 inline VORUnicodeString Repeat(char iChar, int iCount)

@@ -15,8 +15,6 @@
 namespace
 {
 
-constexpr int LongestBannerTitle = 74;
-
 std::mutex BackgroundMutex; // guards the background that the process shares
 
 // 0, or why there is no directory.
@@ -188,7 +186,7 @@ void VORKTRReportingBuffer::DeleteCharacterPages() const
     for (int page = 1; page <= _PagesNb; ++page) {
         const VORUnicodeString character(static_cast<VORUnicodeChar>(page), 1);
         VORUnicodeString path;
-        if (VORMakePath(*_Path, "page" + character + ".html", path) >= 0)
+        if (VORMakePath(*_Path, PageName(character), path) >= 0)
             VORDeleteFile(path);
     }
 }

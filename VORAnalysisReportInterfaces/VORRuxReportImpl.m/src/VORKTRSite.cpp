@@ -122,7 +122,12 @@ VORUnicodeString Decimal(int iNumber)
 
 VORUnicodeString PageName(int iNumber)
 {
-    return VORUnicodeString("page").Append(Decimal(iNumber)).Append(".html");
+    return PageName(Decimal(iNumber));
+}
+
+VORUnicodeString PageName(const VORUnicodeString& iWords)
+{
+    return "page" + iWords + ".html";
 }
 
 int Noted(int& ioFailure, int iStatus)

@@ -14,8 +14,9 @@ constexpr const char* NavigationStylesName = "navigation.css";
 /// A number in decimal.
 VORUnicodeString Decimal(int iNumber);
 
-/// "page%d.html"
+/// The name of a page by its number, "page%d.html", or by other words in the number's place.
 VORUnicodeString PageName(int iNumber);
+VORUnicodeString PageName(const VORUnicodeString& iWords);
 
 /// Returns a status, which becomes ioFailure when it is the first negative one.
 int Noted(int& ioFailure, int iStatus);
