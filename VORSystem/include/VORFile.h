@@ -33,7 +33,7 @@ VORSYSTEM_EXPORT VORStatus VORFWrite(unsigned int iFile, const void* iBytes, std
                                      std::size_t* oWritten) noexcept;
 
 /// Writes what is buffered, closes the file and reports every failure up to now. The handle is free
-/// afterwards, also on failure. Needs no memory.
+/// afterwards, also on failure. Needs no memory in a thread that has opened a file.
 VORSYSTEM_EXPORT VORStatus VORFClose(unsigned int iFile) noexcept;
 
 /// Copies a file's bytes; the copy has the permissions of a new file. An existing target is

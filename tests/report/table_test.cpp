@@ -61,10 +61,15 @@ TEST(Table, OwnsWhatItTakesAndDestroysItInOrder)
         EXPECT_EQ(table.GetRowNumber() + table.GetColumnNumber(), 0);
         for (int cell = 0; cell < 200; ++cell)
             EXPECT_EQ(table.SetObj(cell / 4, cell % 4, new Numbered(0, cell)), 0);
+        auto* const list = new VORKTRReportingList(':');
+        for (const int line : {200, 201})
+            list->addLine("", new Numbered(0, line), "");
+        EXPECT_EQ(table.SetObj(50, 0, list), 0);
+        EXPECT_EQ(table.SetObj(50, 1, Bag({new Numbered(0, 202), new Numbered(0, 203)})), 0);
         EXPECT_EQ(table.SetInt(0, 0, 1, "%d"), 0);
         EXPECT_EQ(Probe::Destroyed, 1);
     }
-    EXPECT_EQ(Probe::Destroyed, 201);
+    EXPECT_EQ(Probe::Destroyed, 205);
 }
 
 /// A cell of one letter; its page shows the style byte that it is given.
