@@ -15,6 +15,8 @@
 namespace
 {
 
+namespace fs = std::filesystem;
+
 unsigned int Open(const std::string& iPath)
 {
     unsigned int file = 0;
@@ -22,19 +24,30 @@ unsigned int Open(const std::string& iPath)
     return file;
 }
 
+void Close(std::initializer_list<unsigned int> iFiles)
+{
+    for (const unsigned int file : iFiles)
+        EXPECT_EQ(VORFClose(file), VOR_S_OK) << file;
+}
+
 TEST(File, OpenReceivesTheHandleClosedLast)
 {
     const unsigned int files[] = {Open(NullDevice), Open(NullDevice), Open(NullDevice)};
-    for (const int closed : {0, 2})
-        EXPECT_EQ(VORFClose(files[closed]), VOR_S_OK);
+    Close({files[0], files[2]});
     for (const unsigned int file : {0u, files[2], files[0], files[2] + 1, ~0u}) {
         EXPECT_LT(VORFWrite(file, "x", 1, nullptr), 0);
         EXPECT_LT(VORFClose(file), 0); // and does not free it a second time
     }
-    for (const int reopened : {2, 0})
-        EXPECT_EQ(Open(NullDevice), files[reopened]);
-    for (const unsigned int file : files)
-        EXPECT_EQ(VORFClose(file), VOR_S_OK);
+    unsigned int reserved = 9;
+    EXPECT_LT(VORFReserve(reserved, VOR_S_OK), 0);
+    EXPECT_EQ(reserved, 0u);
+    EXPECT_EQ(VORFReserve(reserved, VOR_E_ACCESS_DENIED), VOR_S_OK);
+    EXPECT_EQ(reserved, files[2]);
+    EXPECT_EQ(Open(NullDevice), files[0]);
+    EXPECT_EQ(VORFWrite(reserved, "x", 1, nullptr), VOR_E_ACCESS_DENIED);
+    EXPECT_EQ(VORFClose(reserved), VOR_E_ACCESS_DENIED);
+    EXPECT_EQ(Open(NullDevice), reserved);
+    Close({files[0], files[1], files[2]});
 }
 
 TEST(File, BufferedWritesArriveWholeAndInOrder)
@@ -72,24 +85,6 @@ TEST(File, FailuresAreReported)
     EXPECT_LT(VORFOpen(FullDevice, "r", file), 0);
 }
 
-TEST(File, AReservedHandleSwallowsAllAndTellsWhy)
-{
-    const unsigned int closed = Open(NullDevice);
-    EXPECT_EQ(VORFClose(closed), VOR_S_OK);
-    unsigned int file = 9;
-    EXPECT_LT(VORFReserve(file, VOR_S_OK), 0);
-    EXPECT_EQ(file, 0u);
-    EXPECT_EQ(VORFReserve(file, VOR_E_ACCESS_DENIED), VOR_S_OK);
-    EXPECT_EQ(file, closed);
-    const unsigned int other = Open(NullDevice);
-    EXPECT_NE(other, file);
-    EXPECT_EQ(VORFWrite(file, "x", 1, nullptr), VOR_E_ACCESS_DENIED);
-    EXPECT_EQ(VORFClose(file), VOR_E_ACCESS_DENIED);
-    EXPECT_EQ(Open(NullDevice), closed);
-    for (const unsigned int open : {closed, other})
-        EXPECT_EQ(VORFClose(open), VOR_S_OK);
-}
-
 TEST(File, ThreadsGetTheHandlesThatTheyFreed)
 {
     const TemporaryDirectory directory;
@@ -110,7 +105,7 @@ TEST(File, ThreadsGetTheHandlesThatTheyFreed)
         thread.join();
     const unsigned int file = Open(NullDevice); // of a thread that has ended
     EXPECT_LE(file, 4u);
-    EXPECT_EQ(VORFClose(file), VOR_S_OK);
+    Close({file});
 }
 
 TEST(File, HandlesClosedByOneThreadServeOthers)
@@ -137,22 +132,19 @@ TEST(File, TransferTellsWhetherAllArrived)
     const TemporaryDirectory directory;
     const std::string source = directory.Path("source"), target = directory.Path("target");
     const std::string bytes(100000, 'x');
-    const auto transfer = [](const std::string& iFrom, const std::string& iTo,
-                             VORStatus& oArrival) {
-        return VORFTransfer(iFrom.c_str(), iTo.c_str(), oArrival);
-    };
     VORStatus arrival = VOR_S_OK;
-    EXPECT_EQ(transfer(source, target, arrival), VOR_E_FILE_NOT_FOUND);
-    EXPECT_FALSE(std::filesystem::exists(target));
+    const auto transfer = [&](const std::string& iTarget) {
+        return VORFTransfer(source.c_str(), iTarget.c_str(), arrival);
+    };
+    EXPECT_EQ(transfer(target), VOR_E_FILE_NOT_FOUND);
+    EXPECT_FALSE(fs::exists(target));
     WriteFile(source, bytes);
-    EXPECT_EQ(transfer(source, target, arrival), VOR_S_OK);
-    EXPECT_EQ(arrival, VOR_S_OK);
+    EXPECT_TRUE(transfer(target) == VOR_S_OK && arrival == VOR_S_OK);
     EXPECT_EQ(ReadFile(target), bytes);
-    EXPECT_LT(transfer(source, target + "/none", arrival), 0);
-    EXPECT_LT(transfer(source, directory.Path("./source"), arrival), 0);
+    EXPECT_LT(transfer(target + "/none"), 0);
+    EXPECT_LT(transfer(directory.Path("./source")), 0);
     EXPECT_EQ(ReadFile(source), bytes);
-    EXPECT_EQ(transfer(source, FullDevice, arrival), VOR_S_OK);
-    EXPECT_EQ(arrival, VOR_E_DISK_FULL);
+    EXPECT_TRUE(transfer(FullDevice) == VOR_S_OK && arrival == VOR_E_DISK_FULL);
 }
 
 TEST(File, KindsAndEntriesAreToldApart)
@@ -160,7 +152,7 @@ TEST(File, KindsAndEntriesAreToldApart)
     const TemporaryDirectory directory;
     const auto path = [&](const char* iName) { return directory.Path(iName); };
     WriteFile(path("file"), "");
-    std::filesystem::create_hard_link(path("file"), path("hard"));
+    fs::create_hard_link(path("file"), path("hard"));
     const std::pair<std::string, VORFileKind> cases[] = {
         {path("file"), VORRegularFile}, {path("hard"), VORRegularFile}, {path("none"), VORNoFile},
         {path("file/x"), VORNoFile},    {path("."), VORDirectory},      {NullDevice, VOROtherFile}};
@@ -172,9 +164,9 @@ TEST(File, KindsAndEntriesAreToldApart)
     EXPECT_TRUE(isSameAsFile(path("file")) && isSameAsFile(path(".//file")));
     EXPECT_FALSE(isSameAsFile(path("hard")) || isSameAsFile(path("none")));
     EXPECT_FALSE(VORIsSameEntry(path("none").c_str(), path("none").c_str()));
-    std::filesystem::current_path(directory.Path());
+    fs::current_path(directory.Path());
     EXPECT_TRUE(isSameAsFile("file"));
-    std::filesystem::current_path("..");
+    fs::current_path("..");
 }
 
 TEST(File, CopyAndRenameReplaceFilesAlone)
@@ -194,21 +186,20 @@ TEST(File, CopyAndRenameReplaceFilesAlone)
     for (const std::string& to : {target, source, longest})
         EXPECT_EQ(copy(to, 1), VOR_S_OK);
     EXPECT_EQ(ReadFile(target) + ReadFile(source), bytes + bytes);
-    EXPECT_TRUE(std::filesystem::remove(longest));
+    EXPECT_TRUE(fs::remove(longest));
     for (const std::string& special : {std::string(NullDevice), directory.Path()}) {
         EXPECT_EQ(copy(special, 1), VOR_E_ACCESS_DENIED);
         EXPECT_EQ(VORFCopy(special.c_str(), target.c_str(), 1), VOR_E_ACCESS_DENIED);
     }
-    std::filesystem::permissions(source, std::filesystem::perms::owner_read);
+    fs::permissions(source, fs::perms::owner_read);
     EXPECT_EQ(copy(target, 1), VOR_S_OK); // a new file's permissions, not those of the source
-    EXPECT_NE(std::filesystem::status(target).permissions(),
-              std::filesystem::status(source).permissions());
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.Path()), {}), 2);
+    EXPECT_NE(fs::status(target).permissions(), fs::status(source).permissions());
+    EXPECT_EQ(std::distance(fs::directory_iterator(directory.Path()), {}), 2);
     EXPECT_EQ(VORRenameFile(target.c_str(), source.c_str()), VOR_S_OK); // also what is read-only
     EXPECT_EQ(VORFileAccess(target.c_str(), 0, 0), VOR_E_FILE_NOT_FOUND);
     EXPECT_EQ(VORFileAccess(source.c_str(), 6, 0), VOR_S_OK);
     EXPECT_LT(VORRenameFile(source.c_str(), directory.Path().c_str()), 0);
-    std::filesystem::permissions(source, std::filesystem::perms::owner_read);
+    fs::permissions(source, fs::perms::owner_read);
     EXPECT_EQ(VORDeleteFile(source.c_str()), VOR_S_OK);
     EXPECT_EQ(VORDeleteFile(source.c_str()), VOR_E_FILE_NOT_FOUND);
     EXPECT_LT(VORDeleteFile(directory.Path().c_str()), 0);

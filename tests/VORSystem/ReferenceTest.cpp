@@ -130,6 +130,8 @@ TEST(UnicodeString, KeepsItsLimits)
     for (int i = 0; i < 100000; ++i)
         places.insert(text.Append("\u00E9").ConvertToChar());
     EXPECT_LT(places.size(), 100u);
+    const VORUnicodeString twice = text + text;
+    EXPECT_TRUE((text += text) == twice);
 }
 
 TEST(Path, AgreesWithItsReference)

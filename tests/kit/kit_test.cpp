@@ -47,11 +47,6 @@ protected:
     VORKTRReportingBuffer _Report;
 };
 
-bool Holds(const std::string& iText, const std::string& iPart)
-{
-    return iText.find(iPart) != std::string::npos;
-}
-
 } // namespace
 
 TEST_F(Site, LookReplacesTheStylesheetsOfTheSiteInEveryRun)

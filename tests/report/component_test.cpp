@@ -113,7 +113,7 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
              {std::pair("navigation.html", one.first + " ALINK=\"#0000FF\""),
               {"page1.html", one.first},
               {"page3.html", one.next}})
-            EXPECT_NE(Page(page).find("\n<BODY " + told + ">\n"), std::string::npos) << page;
+            EXPECT_TRUE(Holds(Page(page), "\n<BODY " + told + ">\n")) << page;
         for (const std::string image : {"Corp.gif", "paper.png"})
             EXPECT_EQ(fs::exists(site + "/" + image), image == one.copied) << image;
     }
@@ -122,7 +122,7 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     EXPECT_EQ(report.RemoveObject(1), 0);
     EXPECT_EQ(report.Update(), 0);
     EXPECT_EQ(Page("Corp.gif"), "standard");
-    EXPECT_NE(Page("index.html").find("\n<BODY " + standard + ">\n"), std::string::npos);
+    EXPECT_TRUE(Holds(Page("index.html"), "\n<BODY " + standard + ">\n"));
 }
 
 template <typename Interface>

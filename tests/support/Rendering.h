@@ -18,6 +18,11 @@ inline std::string Expected(const std::string& iName)
     return ReadFile(EXPECTED_DIRECTORY "/" + iName);
 }
 
+inline bool Holds(const std::string& iText, const std::string& iPart)
+{
+    return iText.find(iPart) != std::string::npos;
+}
+
 inline std::string Repeat(int iCount, const std::string& iText)
 {
     std::string all;

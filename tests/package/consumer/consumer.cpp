@@ -1,7 +1,7 @@
 // Writes a report with an item of its own into the directory given, and checks what it wrote.
 
-#include <cstdio>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <string>
 
@@ -18,20 +18,12 @@ namespace
 class Light : public VORKTRReportingObj
 {
 public:
-    explicit Light(const char* iColour) : _Colour(iColour) {}
-
-    int GetType() const override { return 100; }
     void Report(unsigned int iFile, const char*, unsigned char, unsigned int) const override
     {
-        const VORUnicodeString html = "<B CLASS=\"" + _Colour + "\">" + _Colour + "</B>";
-        VORFWrite(iFile, html.ConvertToChar(), static_cast<std::size_t>(html.GetLengthInByte()),
-                  nullptr);
+        VORFWrite(iFile, "<B>red</B>", 10, nullptr);
     }
-    void ASCIIReport(VORUnicodeString& ioText) const override { ioText += _Colour; }
-    int GetWidthInChar() const override { return _Colour.GetLengthInChar(); }
-
-private:
-    VORUnicodeString _Colour;
+    void ASCIIReport(VORUnicodeString& ioText) const override { ioText += "red"; }
+    int GetWidthInChar() const override { return 3; }
 };
 
 // Of two interfaces that nothing here names.
@@ -43,30 +35,24 @@ bool AreInterfacesInTheDictionary()
     return VORFindInDictionary(ids[0]) && VORFindInDictionary(ids[1]);
 }
 
-bool Contains(const std::string& iText, const std::string& iPart)
-{
-    const bool found = iText.find(iPart) != std::string::npos;
-    if (!found)
-        std::fprintf(stderr, "missing: %s\nin:\n%s\n", iPart.c_str(), iText.c_str());
-    return found;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
     VORKTRReportingBuffer report;
     auto* const list = new VORKTRReportingList(':');
-    list->addLine("State", new Light("red"), "");
+    list->addLine("State", new Light, "");
     report.AddObject(list);
     VORUnicodeString text;
-    if (argc != 2 || !AreInterfacesInTheDictionary() || report.MakeReport(argv[1], "Lights") != 0 ||
+    if (argc != 2 || report.MakeReport(argv[1], "Lights") != 0 ||
         report.MakeTextReport("", text) != 0)
-        return 1;
+        return 2;
     std::ifstream page(std::string(argv[1]) + "/index.html");
     const std::string html{std::istreambuf_iterator<char>(page), std::istreambuf_iterator<char>()};
-    return Contains(html, "<TD ALIGN=RIGHT><B CLASS=\"red\">red</B></TD>\n") &&
-                   Contains(text.ConvertToChar(), "State : red\n")
+    std::cout << html << text.ConvertToChar(); // in the log when it is wrong
+    return AreInterfacesInTheDictionary() &&
+                   html.find("<TD ALIGN=RIGHT><B>red</B></TD>\n") != std::string::npos &&
+                   text.FindPosition("State : red\n") >= 0
                ? 0
                : 1;
 }
