@@ -29,21 +29,6 @@ std::unique_ptr<Table> TableOf(unsigned long iStyle,
     return table;
 }
 
-TEST(Table, GrowsToTheCellThatIsSet)
-{
-    Table table(0x08);
-    EXPECT_EQ(TextOf(table) + HtmlOf(table), "");
-    EXPECT_EQ(table.GetWidthInChar(), 1);
-    const struct {
-        int row, column;
-        const char* text;
-    } cells[] = {{0, 0, "a"}, {2, 1, "b"}, {0, 5, "c"}, {1, 0, "d"}};
-    for (const auto& [row, column, text] : cells)
-        EXPECT_EQ(table.SetText(row, column, text), 0);
-    EXPECT_EQ(CellTextOf(table), "**********\n*a* ****c*\n*d* **** *\n* *b**** *\n**********\n");
-    EXPECT_EQ(std::pair(table.GetRowNumber(), table.GetColumnNumber()), std::pair(3, 6));
-}
-
 TEST(Table, OwnsWhatItTakesAndDestroysItInOrder)
 {
     struct Numbered : Probe {
@@ -58,7 +43,8 @@ TEST(Table, OwnsWhatItTakesAndDestroysItInOrder)
                                  table.SetFloat(0, -1, 1.f, "%g"), table.SetFloat(-1, 0, 1., "%g"),
                                  table.SetText(0, -1, "x")})
             EXPECT_EQ(status, Failure);
-        EXPECT_EQ(table.GetRowNumber() + table.GetColumnNumber(), 0);
+        EXPECT_EQ(TextOf(table) + HtmlOf(table), "");
+        EXPECT_EQ(table.GetRowNumber() + table.GetColumnNumber() + table.GetWidthInChar(), 1);
         for (int cell = 0; cell < 200; ++cell)
             EXPECT_EQ(table.SetObj(cell / 4, cell % 4, new Numbered(0, cell)), 0);
         auto* const list = new VORKTRReportingList(':');
