@@ -14,7 +14,7 @@ void* operator new(std::size_t iSize)
     auto* const block = static_cast<std::size_t*>(std::malloc(iSize + 16));
     if (!block)
         throw std::bad_alloc();
-    *block = iSize < 256 * 1024 ? iSize : 0;
+    *block = iSize;
     LargestHeap = std::max(LargestHeap, HeapInUse += *block);
     return block + 2;
 }

@@ -3,8 +3,7 @@
 
 #include <cstddef>
 
-// Bytes of the heap in use, and the most since it was set. Blocks of 256 KiB and more, as of a
-// result, do not count.
+// Bytes of the heap in use, and the most since it was set.
 extern std::size_t HeapInUse;
 extern std::size_t LargestHeap;
 
