@@ -12,7 +12,6 @@ namespace
 {
 
 constexpr std::size_t BlockSize = 65536; // what is gathered before it is handed on
-constexpr std::size_t LongRow = 4096;    // what a row may add to that
 
 /// @{ Appends the text of a cell to ioText; without one returns its width. Floats look as
 /// VORKTRReportingFloat, other numbers as their format says.
@@ -205,7 +204,7 @@ void VORKTRArrayTable::Report(unsigned int iFile, const char*, unsigned char, un
         return;
     const bool isCentered = !(_Style & VORKTRTableNotCentered);
     std::string html;
-    html.reserve(BlockSize + LongRow);
+    html.reserve(BlockSize * 2);
     html += isCentered ? "<BR>\n<CENTER>\n" : "<P>\n\n";
     html += _Style & VORKTRTableRuled ? "<TABLE BORDER=2 CELLPADDING=5>\n"
                                       : "<TABLE BORDER=0 CELLPADDING=5>\n";
@@ -279,7 +278,7 @@ void VORKTRArrayTable::AppendTable(VORUnicodeString& ioText, bool iIsInTable) co
     const RowWriter rows(GetWidths(), _Style, iIsInTable);
     Texts cells(_Columns.size());
     std::string text;
-    text.reserve(BlockSize + LongRow);
+    text.reserve(BlockSize * 2);
     text += rows.GetRule();
     for (int row = first; row < _End; ++row) {
         for (std::size_t i = 0; i < cells.size(); ++i) {

@@ -55,6 +55,7 @@ td, th { padding: 0; vertical-align: baseline; }
 table:not([cellpadding]) td { padding: .12rem 0; }
 table:not([cellpadding]) td:nth-child(-n+2) { padding-right: .8rem; }
 table:not([cellpadding]) td:nth-child(2) { color: var(--quiet); }
+td[align="right"], table:not([cellpadding]) td[align="right"] ~ td:not(:last-child) { white-space: nowrap; }
 
 table[cellpadding] { border-top: 1px solid var(--line); }
 table[cellpadding] > tbody > tr > * { padding: .34rem .8rem; border: 0 solid var(--line); border-bottom-width: 1px; }
