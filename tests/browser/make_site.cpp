@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "SetEnv.h"
 #include "VORKTRArrayTable.h"
 #include "VORKTRCharset.h"
 #include "VORKTRFigure.h"
@@ -23,11 +22,6 @@
 namespace
 {
 
-// One transparent pixel.
-constexpr std::string_view
-    Pixel("GIF89a\1\0\1\0\x80\0\0\xff\xff\xff\0\0\0!\xf9\4\1\0\0\0\0,\0\0\0\0"
-          "\1\0\1\0\0\2\2D\1\0;",
-          43);
 constexpr std::string_view Drawing =
     "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"120\" height=\"80\">"
     "<circle cx=\"60\" cy=\"40\" r=\"30\" fill=\"purple\"/></svg>";
@@ -102,8 +96,6 @@ int main(int argc, char** argv)
         return 2;
     }
     const std::string directory = argv[1];
-    WriteFile(directory + "/Corp.gif", Pixel);
-    SetEnv("VORGraphicPath", directory.c_str());
     const bool isWritten = WriteSite(directory + "/frames", 3) &&
                            WriteSite(directory + "/single", 1) && WriteKitSite(directory + "/kit");
     return isWritten ? 0 : 1;

@@ -4,7 +4,7 @@ import { pathToFileURL } from "node:url";
 import { inSight, launch, serve } from "./browser.mjs";
 
 const sites = process.env.SITES;
-let browser, server, page, requests, failures;
+let browser, server, page, failures;
 
 before(async () => {
   server = await serve(sites);
@@ -23,13 +23,11 @@ const isLeft = (request) =>
 
 beforeEach(async () => {
   page = await browser.newPage({ viewport: { width: 1200, height: 800 } });
-  requests = [];
   failures = [];
   page.on("requestfailed", (request) => {
     if (!isLeft(request)) failures.push(request.url());
   });
   page.on("response", (response) => {
-    requests.push(new URL(response.url()).pathname);
     if (response.status() >= 400 && !response.url().endsWith("/favicon.ico"))
       failures.push(`${response.status()} ${response.url()}`);
   });
@@ -55,10 +53,9 @@ async function follow(link) {
 }
 
 // Follows all links of the navigation frame: each leads to its heading; there are images.
-async function checkNavigation(expected) {
+async function checkNavigation() {
   const links = await frame("NavigationFrame").locator("a").all();
   const texts = await Promise.all(links.map((link) => link.textContent()));
-  if (expected) assert.deepEqual(texts, expected);
   let images = 0;
   for (const [i, link] of links.entries()) {
     const { text, anchor } = await follow(link);
@@ -72,15 +69,6 @@ async function checkNavigation(expected) {
   }
   assert.ok(images > 0, "there are images");
 }
-
-test("the frame set shows the navigation and the text", async () => {
-  await open("frames/index.html");
-  assert.equal(await page.title(), "Bridge \u00c4 1");
-  assert.deepEqual(page.frames().slice(1).map((f) => f.name()), ["NavigationFrame", "TextFrame"]);
-  const chapters = [1, 2, 3].flatMap((i) => [`Chapter ${i}`, `End of Chapter ${i}`]);
-  await checkNavigation(["Bridge \u00c4 1", ...chapters]);
-  assert.ok(requests.includes("/frames/Corp.gif"), "the background is fetched");
-});
 
 test("local files are read as UTF-8", async () => {
   await page.goto(pathToFileURL(`${sites}/single/index.html`).href);
@@ -101,6 +89,7 @@ test("the reload page ends at the last heading", async () => {
 
 test("the example's report can be read from one end to the other", async () => {
   await open("truss/index.html");
+  assert.deepEqual(page.frames().slice(1).map((f) => f.name()), ["NavigationFrame", "TextFrame"]);
   await checkNavigation();
   const { text } = await follow(frame("NavigationFrame").locator("a", { hasText: /^Scene$/ }));
   const scene = await text.locator("a", { hasText: "[Full page]" }).evaluate((a) => a.href);

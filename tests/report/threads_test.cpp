@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <regex>
 #include <string>
 #include <thread>
@@ -32,9 +31,7 @@ Files FilesOfUser(int iNumber)
     const std::string paper = "paper" + std::to_string(iNumber);
     Paper = root.Path(paper + ".png");
     WriteFile(Paper, "paper");
-    std::filesystem::create_directory(root.Path("images"));
-    for (const auto& [name, bytes] : Sources)
-        WriteFile(root.Path(name), bytes);
+    WriteSources(root);
     EXPECT_TRUE(Program(root.Path()).Write());
     const std::regex own(paper + "|Figure \\d+");
     Files files;

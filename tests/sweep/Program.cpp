@@ -1,6 +1,8 @@
 #include "Program.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <regex>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -122,21 +124,14 @@ void Program::Rewrite()
 namespace
 {
 
-std::string BareName(const std::string& iPath)
-{
-    return iPath.substr(iPath.rfind('/') + 1);
-}
-
+// The included files that a page names are there.
 void ExpectSources(const std::string& iPage, const Files& iFiles)
 {
-    const std::string begin = "SRC=\"";
-    for (std::size_t at = iPage.find(begin); at != iPage.npos; at = iPage.find(begin, at)) {
-        at += begin.size();
-        const std::string name = BareName(iPage.substr(at, iPage.find('"', at) - at));
+    static const std::regex source("SRC=\"(?:[^\"]*/)?([^\"]*)\"");
+    for (std::sregex_iterator at(iPage.begin(), iPage.end(), source), end; at != end; ++at)
         EXPECT_TRUE(std::any_of(iFiles.begin(), iFiles.end(), [&](const auto& iFile) {
-            return BareName(iFile.first) == name;
-        })) << name;
-    }
+            return std::filesystem::path(iFile.first).filename() == (*at)[1].str();
+        })) << (*at)[1];
 }
 
 void ExpectWholeOrHarmless(const Outcome& iOutcome, const Outcome& iRight)

@@ -7,6 +7,7 @@
 
 #include "SetEnv.h"
 #include "VORKTRReportingBuffer.h"
+#include "support/TemporaryDirectory.h"
 
 class OwnFile;
 
@@ -23,6 +24,13 @@ inline void PrepareEnvironment(const std::string& iImages)
 {
     SetEnv("KTRReportODT", "1");
     SetEnv("VORGraphicPath", iImages.c_str());
+}
+
+inline void WriteSources(const TemporaryDirectory& iDirectory)
+{
+    std::filesystem::create_directory(iDirectory.Path("images"));
+    for (const auto& [name, bytes] : Sources)
+        WriteFile(iDirectory.Path(name), bytes);
 }
 
 /// What an application does: a report of every kind of item, written with frames into "site" and as

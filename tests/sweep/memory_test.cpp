@@ -25,9 +25,7 @@ int CountDescriptors()
 Outcome RunProgram(int iAllocation, bool iForGood)
 {
     const TemporaryDirectory root;
-    fs::create_directory(root.Path("images"));
-    for (const auto& [name, bytes] : Sources)
-        WriteFile(root.Path(name), bytes);
+    WriteSources(root);
     const std::string path = root.Path();
     PrepareEnvironment(path + "/images");
     Outcome outcome;
@@ -52,7 +50,7 @@ Outcome RunProgram(int iAllocation, bool iForGood)
     outcome.mayLack = iAllocation <= filled;
     FailingMemory::FailAt(0);
     readTo(outcome.files);
-    if (program && !iForGood)
+    if (program)
         program->Rewrite();
     readTo(outcome.rewritten);
     FailingMemory::FailAt(1, true); // a report ends without any

@@ -1,12 +1,9 @@
-#include <filesystem>
-
 #include "Program.h"
 
 int main(int argc, char** argv)
 {
     if (argc != 2)
         return 2;
-    PrepareEnvironment("root/images");
-    std::filesystem::current_path(argv[1]);
-    return Program("root").Write() ? 0 : 1;
+    PrepareEnvironment(argv[1] + std::string("/images"));
+    return Program(argv[1]).Write() ? 0 : 1;
 }

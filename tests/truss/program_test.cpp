@@ -32,13 +32,13 @@ class TrussProgram : public testing::Test
 {
 protected:
     /// Exit status of a program; what it says is kept.
-    int Run(const std::string& iCommand)
+    int RunTruss(const std::string& iArguments)
     {
-        const int status = std::system((iCommand + " >" + Path("log") + " 2>&1").c_str());
+        const int status =
+            std::system((TRUSS_PROGRAM " " + iArguments + " >" + Path("log") + " 2>&1").c_str());
         _Said = ReadFile(Path("log"));
         return ExitStatus(status);
     }
-    int RunTruss(const std::string& iArguments) { return Run(TRUSS_PROGRAM " " + iArguments); }
     std::string Path(const std::string& iName) const { return _Directory.Path(iName); }
 
     const TemporaryDirectory _Directory;
@@ -98,12 +98,9 @@ TEST_F(TrussProgram, WritesSiteAndFigures)
     const std::string scene = ReadFile(_Site + "/file1.wrl");
     EXPECT_EQ(scene.find("#VRML V2.0 utf8\n"), 0u);
     EXPECT_EQ(Occurrences(scene, "USE BAR"), 25);
-    const std::string readXml =
-        PYTHON_PROGRAM " -c 'import sys, xml.dom.minidom; xml.dom.minidom.parse(sys.argv[1])' ";
     for (const char* const name : {"/file2.svg", "/file3.svg"}) {
         const std::string drawing = ReadFile(_Site + name);
         EXPECT_EQ(Occurrences(drawing, "nan|inf"), 0);
         EXPECT_EQ(Occurrences(drawing, "class=\"deformed\"[^>]*stroke=\"rgb"), 25);
-        EXPECT_EQ(Run(readXml + _Site + name), 0) << _Said;
     }
 }
