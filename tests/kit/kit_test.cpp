@@ -170,7 +170,7 @@ TEST(Prose, BreaksBetweenWords)
         {Repeat(10, "1234567 "), 4, "    " + Repeat(8, "1234567 ") + "1234567\n    1234567\n\n"},
         {"no\u00a0break", 0, "no\u00a0break\n\n"},
         {"far", INT_MAX, Repeat(79, " ") + "far\n\n"},
-        {"near", INT_MIN, "near\n\n"},
+        {"near by", INT_MIN, "near by\n\n"},
     };
     for (const auto& [text, indent, lines] : cases)
         EXPECT_EQ(TextOf(VORKTRProse(text.c_str(), indent)), lines) << text;
