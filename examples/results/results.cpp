@@ -25,7 +25,7 @@ struct Column {
     explicit Column(const std::string& iHead) : name(iHead.substr(0, iHead.find(" [")))
     {
         if (name.size() < iHead.size())
-            unit = iHead.substr(name.size() + 2, iHead.find(']') - name.size() - 2);
+            unit = iHead.substr(name.size() + 2, iHead.find(']', name.size()) - name.size() - 2);
     }
 
     std::string name, unit;
