@@ -23,6 +23,7 @@
 #include "VORKTRReportingText.h"
 #include "VORKTRTableCaption.h"
 #include "VORStatus.h"
+#include "support/FailingMemory.h"
 #include "support/Rendering.h"
 
 namespace fs = std::filesystem;
@@ -133,6 +134,26 @@ TEST_F(Site, SinglePageHasLinksWithinIt)
     Make();
     EXPECT_EQ(HtmlOf(link), "<A HREF=\"#2\">Only</A>");
     EXPECT_EQ(link.GetWidthInChar(), 4);
+}
+
+TEST_F(Site, FigureKeepsItsFileWhenMemoryRunsOut)
+{
+    const VORUnicodeString directory(_Directory.Path());
+    for (int allocation = 1, thrown = 1; thrown; ++allocation) {
+        WriteFile(_Source.Path("a.png"), "PNG");
+        auto& figure = Add(new VORKTRFigure(_Source.Path("a.png").c_str(), "", ""));
+        thrown = 0;
+        FailingMemory::FailAt(allocation);
+        try {
+            figure.SetBufferData(&directory);
+        } catch (const std::bad_alloc&) {
+            thrown = 1;
+        }
+        FailingMemory::FailAt(0);
+        figure.SetBufferData(&directory);
+        EXPECT_EQ(_Report.RemoveObject(&figure), VOR_S_OK) << allocation;
+    }
+    EXPECT_TRUE(fs::is_empty(_Directory.Path()) && fs::is_empty(_Source.Path()));
 }
 
 TEST(Caption, TakesANumberForTheFirstTextOnly)
