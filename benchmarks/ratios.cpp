@@ -2,9 +2,12 @@
 #include <cstdio>
 #include <cstring>
 #include <iterator>
+#include <limits>
 #include <map>
 #include <string>
 #include <vector>
+
+#include <malloc.h>
 
 #include <benchmark/benchmark.h>
 
@@ -14,15 +17,16 @@ namespace
 /// What is measured, against what. Not a time, which depends on the machine, but how it compares
 /// with another one of the same run; or a value that is counted.
 struct Figure {
-    const char* title;
-    const char* measured;
-    const char* against; // null: the value itself
+    std::string title;
+    std::string measured;
+    std::string against; // empty: the value itself
     double goal;
 };
 
-constexpr double Margin = 1.35; // that --check allows, for machines under load
+constexpr double Margin = 1.1;  // that --check allows, for what is noise
+constexpr int MostAttempts = 8; // to get a figure below it
 
-const char* const Workloads[] = {"W1", "W2", "W3", "W4", "W4t", "W5"};
+constexpr const char* Workloads[] = {"W1", "W2", "W3", "W4", "W4t", "W5"};
 
 /// The time to fill and write a report, in times of a loop.
 struct Table {
@@ -31,40 +35,57 @@ struct Table {
     double goals[std::size(Workloads)];
 };
 
-const Table Tables[] = {{"x hand", "Hand", {1.0, 1.15, 1.45, 1.4, 1.5, 1.4}},
-                        {"x {fmt}", "Fmt", {0.5, 0.55, 0.75, 0.75, 0.8, 1.1}}};
+constexpr Table Tables[] = {{"x hand", "Hand", {1.0, 1.15, 1.45, 1.4, 1.5, 1.4}},
+                            {"x {fmt}", "Fmt", {0.5, 0.55, 0.75, 0.75, 0.8, 1.1}}};
+
+Figure FigureOf(const Table& iTable, std::size_t iWorkload)
+{
+    const std::string workload = Workloads[iWorkload];
+    return {iTable.title, "Report<" + workload + ">", "Loop<" + workload + ", " + iTable.loop + ">",
+            iTable.goals[iWorkload]};
+}
+
+Figure Destruction(const std::string& iWorkload, double iGoal)
+{
+    return {"destroying " + iWorkload + " : filling it", "Destroy<" + iWorkload + ">",
+            "Fill<" + iWorkload + ">", iGoal};
+}
 
 // A thousandfold number of entries takes at most 1000^1.05 times the time.
-constexpr double Growth = 1.41;
+Figure Growth(const std::string& iTitle, const std::string& iBenchmark)
+{
+    return {"growth: " + iTitle, iBenchmark + "/1000000", iBenchmark + "/1000", 1.41};
+}
 
 const Figure Figures[] = {
-    {"bytes a number cell, 100,000 x 10", "BytesPerNumberCell/100000/10", nullptr, 32},
-    {"bytes a number cell, 1,000,000 x 1", "BytesPerNumberCell/1000000/1", nullptr, 32},
-    {"bytes a number cell, 10,000 x 10", "BytesPerNumberCell/10000/10", nullptr, 32},
-    {"bytes a text cell of 20 characters, 1,000", "BytesPerTextCell/1000", nullptr, 80},
-    {"bytes a text cell of 20 characters, 100,000", "BytesPerTextCell/100000", nullptr, 80},
-    {"bytes a list line, 1,000", "BytesPerListLine/1000", nullptr, 120},
-    {"bytes a list line, 100,000", "BytesPerListLine/100000", nullptr, 120},
-    {"allocations a table row while writing", "AllocationsPerRow", nullptr, 0},
-    {"allocations a list line while writing", "AllocationsPerLine", nullptr, 0},
-    {"allocations a paragraph while writing", "AllocationsPerParagraph", nullptr, 0},
-    {"allocations a page while writing", "AllocationsPerPage", nullptr, 4},
-    {"destroying W1 : filling it", "Destroy<W1>", "Fill<W1>", 0.1},
-    {"growth: items of a report", "AddItems<VORKTRReportingBuffer>/1000000",
-     "AddItems<VORKTRReportingBuffer>/1000", Growth},
-    {"growth: items of a bag", "AddItems<VORKTRReportingBag>/1000000",
-     "AddItems<VORKTRReportingBag>/1000", Growth},
-    {"growth: rows", "FillRows/1000000", "FillRows/1000", Growth},
-    {"growth: columns", "FillColumns/1000000", "FillColumns/1000", Growth},
-    {"growth: list lines", "AddLines/1000000", "AddLines/1000", Growth},
-    {"growth: removing in order", "RemoveInOrder/1000000", "RemoveInOrder/1000", Growth},
-    {"growth: removing in reverse", "RemoveInReverse/1000000", "RemoveInReverse/1000", Growth},
-    {"growth: adding one, removing the one before", "AddAndRemovePrevious/1000000",
-     "AddAndRemovePrevious/1000", Growth},
-    {"growth: Update", "Update/1000000", "Update/1000", Growth},
-    {"growth: Append", "Append/1000000", "Append/1000", Growth},
-    {"growth: ReplaceAllOccurrences", "ReplaceAllOccurrences/1000000", "ReplaceAllOccurrences/1000",
-     Growth},
+    {"bytes a number cell, 100,000 x 10", "BytesPerNumberCell/100000/10", "", 32},
+    {"bytes a number cell, 1,000,000 x 1", "BytesPerNumberCell/1000000/1", "", 32},
+    {"bytes a number cell, 10,000 x 10", "BytesPerNumberCell/10000/10", "", 32},
+    {"bytes a text cell of 20 characters, 1,000", "BytesPerTextCell/1000", "", 80},
+    {"bytes a text cell of 20 characters, 100,000", "BytesPerTextCell/100000", "", 80},
+    {"bytes a list line, 1,000", "BytesPerListLine/1000", "", 120},
+    {"bytes a list line, 100,000", "BytesPerListLine/100000", "", 120},
+    {"allocations a table row while writing", "AllocationsPerRow", "", 0},
+    {"allocations a list line while writing", "AllocationsPerLine", "", 0},
+    {"allocations a paragraph while writing", "AllocationsPerParagraph", "", 0},
+    {"allocations a page while writing", "AllocationsPerPage", "", 4},
+    Destruction("W1", 0.1),
+    Destruction("W3", 0.1),
+    // Many small pieces of memory, which the C library joins one by one as they are freed.
+    Destruction("W2", 0.3),
+    Destruction("W4", 1),
+    Destruction("W5", 1),
+    Growth("items of a report", "AddItems<VORKTRReportingBuffer>"),
+    Growth("items of a bag", "AddItems<VORKTRReportingBag>"),
+    Growth("rows", "FillRows"),
+    Growth("columns", "FillColumns"),
+    Growth("list lines", "AddLines"),
+    Growth("removing in order", "RemoveInOrder"),
+    Growth("removing in reverse", "RemoveInReverse"),
+    Growth("adding one, removing the one before", "AddAndRemovePrevious"),
+    Growth("Update", "Update"),
+    Growth("Append", "Append"),
+    Growth("ReplaceAllOccurrences", "ReplaceAllOccurrences"),
 };
 
 /// Shows medians only and keeps the smallest CPU time of each benchmark, which other programs on
@@ -112,49 +133,79 @@ private:
     std::map<std::string, double> _Values;
 };
 
-/// Prints a value beside its goal. False when it was not measured or is above the goal and the
-/// margin.
-bool Print(double iValue, double iAgainst, double iGoal)
+/// The value of a figure; below 0 when it was not measured.
+double ValueOf(const Figure& iFigure, const RatioReporter& iReporter)
 {
-    if (iValue < 0 || iAgainst <= 0) {
-        std::printf("   none (%4.4g) ", iGoal);
-        return false;
-    }
-    const double value = iValue / iAgainst;
-    const bool isMet = value <= iGoal * Margin;
-    std::printf("%7.3g (%4.4g)%c", value, iGoal, isMet ? ' ' : '!');
-    return isMet;
+    const double against = iFigure.against.empty() ? 1 : iReporter.Get(iFigure.against);
+    return against > 0 ? iReporter.Get(iFigure.measured) / against : -1;
 }
 
-/// Each prints its figures and returns the number of those that miss their goals.
-int PrintTables(const RatioReporter& iReporter)
+bool IsMet(const Figure& iFigure, double iValue)
 {
-    int missed = 0;
-    std::printf("\n%-8s", "");
+    return iValue >= 0 && iValue <= iFigure.goal * Margin;
+}
+
+void Print(const Figure& iFigure, const RatioReporter& iReporter)
+{
+    const double value = ValueOf(iFigure, iReporter);
+    if (value < 0)
+        std::printf("   none (%4.4g) ", iFigure.goal);
+    else
+        std::printf("%7.3g (%4.4g)%c", value, iFigure.goal, IsMet(iFigure, value) ? ' ' : '!');
+}
+
+void PrintAll(const RatioReporter& iReporter)
+{
+    std::printf("\nRatios of the smallest CPU times, goals in brackets, ! beyond the margin\n%-8s",
+                "");
     for (const char* const workload : Workloads)
         std::printf("%-15s ", workload);
     for (const Table& table : Tables) {
         std::printf("\n%-8s", table.title);
-        for (std::size_t i = 0; i < std::size(Workloads); ++i) {
-            const std::string workload = Workloads[i];
-            const double report = iReporter.Get("Report<" + workload + ">");
-            const double loop = iReporter.Get("Loop<" + workload + ", " + table.loop + ">");
-            missed += Print(report, loop, table.goals[i]) ? 0 : 1;
-        }
+        for (std::size_t i = 0; i < std::size(Workloads); ++i)
+            Print(FigureOf(table, i), iReporter);
     }
     std::printf("\n\n");
+    for (const Figure& figure : Figures) {
+        Print(figure, iReporter);
+        std::printf("  %s\n", figure.title.c_str());
+    }
+}
+
+std::vector<Figure> FindMissed(const RatioReporter& iReporter)
+{
+    std::vector<Figure> missed;
+    const auto add = [&](const Figure& figure) {
+        if (!IsMet(figure, ValueOf(figure, iReporter)))
+            missed.push_back(figure);
+    };
+    for (const Table& table : Tables) {
+        for (std::size_t i = 0; i < std::size(Workloads); ++i)
+            add(FigureOf(table, i));
+    }
+    std::for_each(std::begin(Figures), std::end(Figures), add);
     return missed;
 }
 
-int PrintFigures(const RatioReporter& iReporter)
+/// Measures again what missed its goal, both sides of it: a smallest time comes only nearer to what
+/// it would be on a machine without other work.
+void MeasureAgain(const std::vector<Figure>& iFigures, RatioReporter& ioReporter)
 {
-    int missed = 0;
-    for (const Figure& figure : Figures) {
-        const double against = figure.against ? iReporter.Get(figure.against) : 1;
-        missed += Print(iReporter.Get(figure.measured), against, figure.goal) ? 0 : 1;
-        std::printf("  %s\n", figure.title);
+    std::string names;
+    for (const Figure& figure : iFigures) {
+        if (ValueOf(figure, ioReporter) >= 0 && !figure.against.empty())
+            names += (names.empty() ? "^(" : "|") + figure.measured + "|" + figure.against;
     }
-    return missed;
+    if (!names.empty())
+        benchmark::RunSpecifiedBenchmarks(&ioReporter, names + ")$");
+}
+
+// What was freed is used again: to get pages from the system takes as long as it is busy, which
+// says nothing about report or loop.
+void KeepFreedMemory()
+{
+    ::mallopt(M_MMAP_MAX, 0);
+    ::mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
 }
 
 bool TakeCheckOption(int& ioCount, char** ioArguments)
@@ -186,9 +237,14 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 2;
 
+    KeepFreedMemory();
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    std::printf("\nRatios of the smallest CPU times, goals in brackets, ! beyond the margin\n");
-    const int missed = PrintTables(reporter) + PrintFigures(reporter);
-    return isCheck && missed > 0 ? 1 : 0;
+    std::vector<Figure> missed = FindMissed(reporter);
+    for (int attempt = 1; attempt < MostAttempts && !missed.empty(); ++attempt) {
+        MeasureAgain(missed, reporter);
+        missed = FindMissed(reporter);
+    }
+    PrintAll(reporter);
+    return isCheck && !missed.empty() ? 1 : 0;
 }

@@ -115,5 +115,12 @@ WORKLOAD(W3);
 WORKLOAD(W4);
 WORKLOAD(W4t);
 WORKLOAD(W5);
-BENCHMARK_TEMPLATE(Fill, W1);
-BENCHMARK_TEMPLATE(Destroy, W1);
+#define HELD(W)                                                                                    \
+    BENCHMARK_TEMPLATE(Fill, W);                                                                   \
+    BENCHMARK_TEMPLATE(Destroy, W)
+
+HELD(W1);
+HELD(W2);
+HELD(W3);
+HELD(W4);
+HELD(W5);

@@ -85,6 +85,7 @@ private:
 
     template <typename... Arguments>
     int SetNew(int iRow, int iColumn, const Arguments&... iArguments);
+    void EndItem(int iRow, int iColumn);
     void Rearrange(int iRows, int iColumns);
     std::vector<int> MeasureColumns() const;
     bool IsMeasuredOnce() const;

@@ -63,13 +63,35 @@ std::size_t SequenceLength(const char* iText, const char* iEnd)
     return continued && IsSecondByteInRange(ByteAt(iText), ByteAt(iText + 1)) ? length : 1;
 }
 
+std::uint64_t EightBytes(const char* iText)
+{
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, iText, sizeof bytes);
+    return bytes;
+}
+
+// Of eight bytes together.
+bool IsAscii(std::uint64_t iBytes)
+{
+    return (iBytes & 0x8080808080808080u) == 0;
+}
+
+// Looks at a byte twice, and at all behind one that is not ASCII, rather than branch for each.
+bool IsAscii(const char* iText, std::size_t iLength)
+{
+    if (iLength < 8)
+        return std::all_of(iText, iText + iLength, [](char c) { return ByteAt(&c) < 0x80; });
+    const char* const last = iText + iLength - 8;
+    std::uint64_t bytes = EightBytes(last);
+    for (; iText < last; iText += 8)
+        bytes |= EightBytes(iText);
+    return IsAscii(bytes);
+}
+
 const char* SkipAscii(const char* iText, const char* iEnd)
 {
-    for (std::uint64_t eight; iEnd - iText >= 8; iText += 8) {
-        std::memcpy(&eight, iText, sizeof eight);
-        if (eight & 0x8080808080808080u)
-            break;
-    }
+    while (iEnd - iText >= 8 && IsAscii(EightBytes(iText)))
+        iText += 8;
     while (iText != iEnd && ByteAt(iText) < 0x80)
         ++iText;
     return iText;
@@ -124,6 +146,8 @@ std::size_t OpenSequence(const std::string& iBytes)
 
 std::size_t VORCountChars(const char* iText, std::size_t iLength)
 {
+    if (IsAscii(iText, iLength)) // as most texts are
+        return iLength;
     const char* const end = iText + iLength;
     std::size_t count = 0;
     while (iText != end) {

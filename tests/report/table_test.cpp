@@ -58,6 +58,22 @@ TEST(Table, OwnsWhatItTakesAndDestroysItInOrder)
     EXPECT_EQ(Probe::Destroyed, 205);
 }
 
+TEST(Table, SetsACellWhoseItemGrowsItAsItEnds)
+{
+    struct Growing : Probe {
+        explicit Growing(Table& ioTable) : table(ioTable) {}
+        ~Growing() override { table.SetText(0, 2 * table.GetColumnNumber(), "last"); }
+        Table& table;
+    };
+    Table table(VORKTRTableNotCentered);
+    EXPECT_EQ(table.SetText(1, 0, "below"), 0);
+    EXPECT_EQ(table.SetObj(0, 0, new Growing(table)), 0);
+    EXPECT_EQ(table.SetObj(0, 0, new Growing(table)), 0);
+    EXPECT_EQ(table.SetText(0, 0, "first"), 0);
+    EXPECT_EQ(table.GetColumnNumber(), 7);
+    EXPECT_EQ(TextOf(table).substr(0, 9), "    first");
+}
+
 /// A cell of one letter; its page shows the style byte that it is given.
 struct StyleProbe : Probe {
     explicit StyleProbe(char iLetter) : Probe(0, 1), letter(1, iLetter) {}

@@ -230,15 +230,24 @@ VORKTRReportingTable::~VORKTRReportingTable()
         cell = VORKTRValue();
 }
 
+// Empties a cell. An item may change its table as it ends, so that it is no longer in it by then.
+void VORKTRReportingTable::EndItem(int iRow, int iColumn)
+{
+    if (_HoldsItems)
+        const VORKTRValue ended = std::move(CellAt(iRow, iColumn));
+}
+
 template <typename... Arguments>
 int VORKTRReportingTable::SetNew(int iRow, int iColumn, const Arguments&... iArguments)
 {
     if (!IsPosition(iRow, iColumn))
         return VOR_E_FAIL;
-    Reallocate(iRow, iColumn);
-    CellAt(iRow, iColumn) = VORKTRValue();
-    CellAt(iRow, iColumn) = _Values.Make(iArguments...);
-    _HoldsItems |= CellAt(iRow, iColumn).IsItem();
+    if (iRow >= _RowNb || iColumn >= _ColumnNb)
+        Reallocate(iRow, iColumn);
+    EndItem(iRow, iColumn);
+    VORKTRValue& cell = CellAt(iRow, iColumn);
+    cell = _Values.Make(iArguments...);
+    _HoldsItems |= cell.IsItem();
     return VOR_S_OK;
 }
 
@@ -268,6 +277,7 @@ int VORKTRReportingTable::SetObj(int row, int col, VORKTRReportingObj* item)
         return VOR_E_FAIL;
     VORKTRValue cell{std::unique_ptr<VORKTRReportingObj>(item)};
     Reallocate(row, col);
+    EndItem(row, col);
     CellAt(row, col) = std::move(cell);
     _HoldsItems = true;
     return VOR_S_OK;
@@ -279,9 +289,11 @@ void VORKTRReportingTable::Reallocate(int row, int col)
         return;
     const int rows = std::max(_RowNb, row + 1);
     const int columns = std::max(_ColumnNb, col + 1);
-    if (static_cast<std::size_t>(columns) > _Stride)
+    if (rows == 1) // as tables begin: no row has to move
+        _Stride = std::max(_Stride, static_cast<std::size_t>(columns));
+    else if (static_cast<std::size_t>(columns) > _Stride)
         Rearrange(rows, columns);
-    else if (_Cells.size() < Offset(rows, 0))
+    if (_Cells.size() < Offset(rows, 0))
         _Cells.resize(Offset(rows, 0));
     _RowNb = rows; // only now that there is memory for them
     _ColumnNb = columns;

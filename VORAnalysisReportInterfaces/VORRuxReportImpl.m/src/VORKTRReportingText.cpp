@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "VORKTRAssert.h"
 #include "VORKTRCell.h"
@@ -27,6 +28,11 @@ VORKTRReportingText::VORKTRReportingText() : _AllText(std::make_unique<VORUnicod
 
 VORKTRReportingText::VORKTRReportingText(const VORUnicodeString& text)
     : _AllText(std::make_unique<VORUnicodeString>(text))
+{
+}
+
+VORKTRReportingText::VORKTRReportingText(VORUnicodeString&& ioText)
+    : _AllText(std::make_unique<VORUnicodeString>(std::move(ioText)))
 {
 }
 
