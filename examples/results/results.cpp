@@ -88,14 +88,14 @@ std::vector<Column> Summarise(const std::vector<Column>& iColumns)
 {
     const std::string heads[] = {"result", "unit", "minimum", "at", "maximum", "at"};
     std::vector<Column> summary(std::begin(heads), std::end(heads));
-    const auto& places = iColumns.front().fields;
     for (const auto& [name, unit, fields, numbers, format] : iColumns) {
-        if (numbers.empty() || &fields == &places)
+        if (numbers.empty() || &fields == &iColumns.front().fields)
             continue;
         const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
+        const auto field = fields.begin(), place = iColumns.front().fields.begin();
         const auto low = least - numbers.begin(), high = most - numbers.begin();
         auto column = summary.begin();
-        for (const auto& text : {name, unit, fields[low], places[low], fields[high], places[high]})
+        for (const auto& text : {name, unit, field[low], place[low], field[high], place[high]})
             column++->fields.push_back(text);
     }
     return summary;
