@@ -25,7 +25,7 @@ struct Settings : VORIKTRReportingSettingAtt {
         int flagStatus;
         unsigned char flag;
         int pathStatus;
-        std::string path;
+        const char* path;
     };
 
     Settings() { ++Living; }
@@ -63,13 +63,15 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     fs::create_directory(images);
     WriteFile(images + "/Corp.gif", "standard");
     WriteFile(images + "/paper.png", "user's");
-    const std::string paper = images + "/paper.png", missing = images + "/missing.png";
+    const std::string paper = images + "/paper.png", missing = images + "/missing.png",
+                      decoy = images + "/";
     const std::string colour = "BGCOLOR=\"#EEF3FF\"", standard = "BACKGROUND=\"Corp.gif\"";
     const std::string user = "BACKGROUND=\"paper.png\"", named = "BACKGROUND=\"missing.png\"";
     // The longest parts of a path that later pages name.
     const std::string dots = images + Repeat((256 - static_cast<int>(images.size())) / 2, "/.");
     const std::string directory = dots + std::string(256 - dots.size(), '/');
     const std::string name(256, 'n'), longest = directory + "/" + name;
+    const std::string longName = longest + "n", longDirectory = directory + "//" + name;
     const std::string longNamed = "BACKGROUND=\"" + name + "\"";
     // In this order: the background copied last stays that of first pages.
     const struct {
@@ -78,25 +80,25 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
         bool hasStandard;
         std::string first, next, copied;
     } cases[] = {
-        {nullptr, {}, false, colour, colour, ""},
-        {New<VORBaseUnknown>, {}, false, colour, colour, ""},
-        {New<RefusingSettings>, {0, 0, 0, paper}, false, colour, colour, ""},
-        {New<Settings>, {0, 1, 0, paper}, false, colour, colour, ""},
-        {New<Settings>, {VOR_E_FAIL, 0, 0, paper}, false, colour, colour, ""},
-        {New<Settings>, {0, 0, VOR_E_FAIL, paper}, false, colour, colour, ""},
+        {nullptr, {0, 0, 0, ""}, false, colour, colour, ""},
+        {New<VORBaseUnknown>, {0, 0, 0, ""}, false, colour, colour, ""},
+        {New<RefusingSettings>, {0, 0, 0, paper.c_str()}, false, colour, colour, ""},
+        {New<Settings>, {0, 1, 0, paper.c_str()}, false, colour, colour, ""},
+        {New<Settings>, {VOR_E_FAIL, 0, 0, paper.c_str()}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, VOR_E_FAIL, paper.c_str()}, false, colour, colour, ""},
         {New<Settings>, {0, 0, 0, "paper.png"}, false, colour, colour, ""},
-        {New<Settings>, {0, 0, 0, images + "/"}, false, colour, colour, ""},
-        {New<Settings>, {0, 0, 0, missing}, false, colour, named, ""},
-        {New<Settings>, {0, 0, 0, longest}, false, colour, longNamed, ""},
-        {New<Settings>, {0, 0, 0, longest + "n"}, false, colour, colour, ""},
-        {New<Settings>, {0, 0, 0, directory + "//" + name}, false, colour, colour, ""},
-        {New<Settings>, {0, 0, 0, paper}, true, user, user, "paper.png"},
-        {New<Settings>, {0, 0, 0, missing}, false, user, named, ""},
-        {New<Settings>, {0, 0, 0, missing}, true, standard, named, "Corp.gif"},
-        {New<Settings>, {0, 0, VOR_E_FAIL, paper}, true, standard, colour, "Corp.gif"},
-        {New<Settings>, {VOR_E_FAIL, 0, 0, paper}, true, standard, standard, "Corp.gif"},
-        {nullptr, {}, true, standard, standard, "Corp.gif"},
-        {nullptr, {}, false, standard, colour, ""},
+        {New<Settings>, {0, 0, 0, decoy.c_str()}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, missing.c_str()}, false, colour, named, ""},
+        {New<Settings>, {0, 0, 0, longest.c_str()}, false, colour, longNamed, ""},
+        {New<Settings>, {0, 0, 0, longName.c_str()}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, longDirectory.c_str()}, false, colour, colour, ""},
+        {New<Settings>, {0, 0, 0, paper.c_str()}, true, user, user, "paper.png"},
+        {New<Settings>, {0, 0, 0, missing.c_str()}, false, user, named, ""},
+        {New<Settings>, {0, 0, 0, missing.c_str()}, true, standard, named, "Corp.gif"},
+        {New<Settings>, {0, 0, VOR_E_FAIL, paper.c_str()}, true, standard, colour, "Corp.gif"},
+        {New<Settings>, {VOR_E_FAIL, 0, 0, paper.c_str()}, true, standard, standard, "Corp.gif"},
+        {nullptr, {0, 0, 0, ""}, true, standard, standard, "Corp.gif"},
+        {nullptr, {0, 0, 0, ""}, false, standard, colour, ""},
     };
     Add({Title("A", 2), Title("B", 2)});
     for (const auto& one : cases) {
@@ -125,33 +127,30 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
     EXPECT_TRUE(Holds(Page("index.html"), "\n<BODY " + standard + ">\n"));
 }
 
+template <typename Interface>
+void ExpectInterface(const char* iName, const GUID& iExported, const GUID& iId)
+{
+    VORMetaClass* const entered = VORFindInDictionary(iId);
+    ASSERT_NE(entered, nullptr) << iName;
+    EXPECT_TRUE(Interface::MetaObject() == entered && Interface::ClassId() == iId);
+    EXPECT_TRUE(iExported == iId);
+    EXPECT_STREQ(Interface::ClassName(), iName);
+    EXPECT_STREQ(entered->GetFWname(), "VORAnalysisReportInterfaces");
+    EXPECT_EQ(entered->GetBase(), VORBaseUnknown::MetaObject());
+    EXPECT_EQ(entered->GetKind(), 8);
+}
+
 TEST_F(ComponentTest, InterfacesAreInTheDictionaryFromTheStart)
 {
-    const struct {
-        const VORMetaClass* meta;
-        const char* name;
-        GUID exported, id;
-    } cases[] = {{VORIKTRReporting::MetaObject(),
-                  VORIKTRReporting::ClassName(),
-                  IID_VORIKTRReporting,
-                  {0x580C9CBA, 0x86E9, 0x4B9A, {0xAC, 0x55, 0x59, 0x6D, 0x6E, 0x89, 0xA4, 0x9E}}},
-                 {VORIKTRGeneralSettingAtt::MetaObject(),
-                  VORIKTRGeneralSettingAtt::ClassName(),
-                  IID_VORIKTRGeneralSettingAtt,
-                  {0x7AF29DE1, 0xA4E8, 0x4B09, {0xB5, 0x04, 0x60, 0x03, 0x2B, 0x03, 0x90, 0x4E}}},
-                 {VORIKTRReportingSettingAtt::MetaObject(),
-                  VORIKTRReportingSettingAtt::ClassName(),
-                  IID_VORIKTRReportingSettingAtt,
-                  {0x5C3B22E5, 0x0845, 0x4AAD, {0xAB, 0x6E, 0xA9, 0x25, 0x0F, 0x6F, 0x7E, 0xE5}}}};
-    std::string names;
-    for (const auto& one : cases) {
-        EXPECT_TRUE(VORFindInDictionary(one.id) == one.meta && one.exported == one.id) << one.name;
-        EXPECT_STREQ(one.meta->GetFWname(), "VORAnalysisReportInterfaces");
-        EXPECT_TRUE(one.meta->GetBase() == VORBaseUnknown::MetaObject() &&
-                    one.meta->GetKind() == 8);
-        names += one.name;
-    }
-    EXPECT_EQ(names, "VORIKTRReportingVORIKTRGeneralSettingAttVORIKTRReportingSettingAtt");
+    ExpectInterface<VORIKTRReporting>(
+        "VORIKTRReporting", IID_VORIKTRReporting,
+        {0x580C9CBA, 0x86E9, 0x4B9A, {0xAC, 0x55, 0x59, 0x6D, 0x6E, 0x89, 0xA4, 0x9E}});
+    ExpectInterface<VORIKTRGeneralSettingAtt>(
+        "VORIKTRGeneralSettingAtt", IID_VORIKTRGeneralSettingAtt,
+        {0x7AF29DE1, 0xA4E8, 0x4B09, {0xB5, 0x04, 0x60, 0x03, 0x2B, 0x03, 0x90, 0x4E}});
+    ExpectInterface<VORIKTRReportingSettingAtt>(
+        "VORIKTRReportingSettingAtt", IID_VORIKTRReportingSettingAtt,
+        {0x5C3B22E5, 0x0845, 0x4AAD, {0xAB, 0x6E, 0xA9, 0x25, 0x0F, 0x6F, 0x7E, 0xE5}});
 }
 
 TEST_F(ComponentTest, AHandleTakesItsInterfaceAlone)
