@@ -6,8 +6,6 @@
 
 #include "VORKTRLinkTarget.h"
 
-// What the items of the kit share.
-
 constexpr int PageWidth = 80; // of the text report
 constexpr int CellWidth = 40; // of what is broken inside a cell
 
