@@ -97,7 +97,7 @@ private:
 
     VORKTRValues _Values; // outlives the cells
     // Row-major; a row has room for _Stride cells, so that columns can be added without moving
-    // every row each time.
+    // every row each time. In blocks: as one vector, W1 takes 1.06 times the time.
     std::deque<VORKTRValue> _Cells;
     std::size_t _Stride = 0;
     int _RowNb = 0;

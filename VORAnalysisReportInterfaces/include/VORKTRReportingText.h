@@ -11,11 +11,9 @@
 class VORKTR_EXPORT VORKTRReportingText : public VORKTRReportingObj
 {
 public:
-    /// @{ A paragraph, empty at first or with its first piece, which is copied or, from a
-    /// temporary, moved.
+    /// @{ A paragraph, empty at first or with its first piece.
     VORKTRReportingText();
     explicit VORKTRReportingText(const VORUnicodeString& text);
-    explicit VORKTRReportingText(VORUnicodeString&& ioText);
     /// @}
     ~VORKTRReportingText() override;
 

@@ -263,7 +263,8 @@ constexpr auto Pairs = [] {
 }();
 
 /// A number that is an integer once its point is moved: a float in "%.3f" or its like, which is
-/// what reports are made of. Integer arithmetic gives the digits of to_chars several times as fast.
+/// what reports are made of. Integer arithmetic gives the digits of to_chars several times as fast:
+/// without it W1 takes 2.3 times the instructions.
 class ScaledNumber
 {
 public:
@@ -292,28 +293,21 @@ public:
 
     int GetLength() const { return _Negative + _Count + (_Precision > 0 ? 1 : 0); }
 
-    /// Returns the end of what it writes. With half the bits where those are enough, which makes
-    /// the digits faster.
+    /// Returns the end of what it writes.
     char* Write(char* oText) const
     {
-        const auto half = static_cast<std::uint32_t>(_Digits);
-        return half == _Digits ? Write(oText, half) : Write(oText, _Digits);
-    }
-
-private:
-    template <typename Integer>
-    char* Write(char* oText, Integer iDigits) const
-    {
+        std::uint64_t rest = _Digits;
         char* const end = oText + GetLength();
-        char* at = PutDigits(end, iDigits, _Precision);
+        char* at = PutDigits(end, rest, _Precision);
         if (_Precision > 0)
             *--at = '.';
-        PutDigits(at, iDigits, _Count - _Precision);
+        PutDigits(at, rest, _Count - _Precision);
         if (_Negative)
             *oText = '-';
         return end;
     }
 
+private:
     // To the nearest integer, a half to the even one, whatever the rounding mode.
     static std::uint64_t Round(double iScaled)
     {
@@ -324,8 +318,7 @@ private:
     }
 
     // The last iCount digits of ioNumber, which loses them, in front of iEnd.
-    template <typename Integer>
-    static char* PutDigits(char* iEnd, Integer& ioNumber, int iCount)
+    static char* PutDigits(char* iEnd, std::uint64_t& ioNumber, int iCount)
     {
         for (; iCount >= 2; iCount -= 2) {
             const auto pair = static_cast<std::size_t>(ioNumber % 100 * 2);

@@ -25,17 +25,6 @@ constexpr bool IsEscaped(char iCharacter)
     return isEscaped;
 }
 
-constexpr std::size_t BlockSize = 16;
-
-// A loop of fixed length, which compilers turn into a few operations on all 16 characters.
-bool HoldsEscaped(const char* iBlock)
-{
-    unsigned char found = 0;
-    for (std::size_t i = 0; i < BlockSize; ++i)
-        found |= static_cast<unsigned char>(IsEscaped(iBlock[i]));
-    return found != 0;
-}
-
 } // namespace
 
 std::string_view EscapeOf(char iCharacter)
@@ -50,8 +39,6 @@ std::string_view EscapeOf(char iCharacter)
 std::size_t CountUnescaped(std::string_view iText)
 {
     std::size_t at = 0;
-    while (iText.size() - at >= BlockSize && !HoldsEscaped(iText.data() + at))
-        at += BlockSize;
     while (at < iText.size() && !IsEscaped(iText[at]))
         ++at;
     return at;

@@ -78,12 +78,6 @@ public:
 
     /// Sends what there is, if anything; the fragment is empty then.
     void Send();
-    /// Sends it when it is so long that one write more does not matter.
-    void SendIfLong()
-    {
-        if (GetSize() >= 4096)
-            Send();
-    }
 
 protected:
     Fragment(unsigned int iFile, char* iPlace, std::size_t iSize)
@@ -96,7 +90,7 @@ private:
 };
 
 /// A fragment on the stack as long as it is short, as nearly all are. For items that hold no
-/// others: those that do may be nested deep.
+/// others: those that do may be nested deep. On the heap, W2 takes 1.07 times the time.
 class ShortFragment : public Fragment
 {
 public:

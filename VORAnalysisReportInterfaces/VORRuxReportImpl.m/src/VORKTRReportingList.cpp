@@ -125,7 +125,7 @@ void VORKTRReportingList::Report(unsigned int iFile, const char* iPath, unsigned
             line.value.AppendInList(html, hasFloats);
         }
         html.Append(OpenLeftTD, "&nbsp;", UnitOf(line), CloseTD, CloseRow);
-        html.SendIfLong();
+        html.Send();
     }
     html.Append(CloseTable, "</P>\n", "\n");
     html.Send();

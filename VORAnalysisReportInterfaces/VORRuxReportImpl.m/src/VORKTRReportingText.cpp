@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 
 #include "VORKTRAssert.h"
 #include "VORKTRCell.h"
@@ -28,11 +27,6 @@ VORKTRReportingText::VORKTRReportingText() : _AllText(std::make_unique<VORUnicod
 
 VORKTRReportingText::VORKTRReportingText(const VORUnicodeString& text)
     : _AllText(std::make_unique<VORUnicodeString>(text))
-{
-}
-
-VORKTRReportingText::VORKTRReportingText(VORUnicodeString&& ioText)
-    : _AllText(std::make_unique<VORUnicodeString>(std::move(ioText)))
 {
 }
 

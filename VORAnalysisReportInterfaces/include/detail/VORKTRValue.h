@@ -14,6 +14,7 @@ class VORKTRByteBuffer;
 
 /// What a table cell or the value of a list line holds: nothing, a number, a text or an item.
 /// Numbers and texts need no item, for nobody outside could ask for it; they look as the items do.
+/// With items W1 takes 2.6 times the time.
 class VORKTRValue
 {
 public:
@@ -84,7 +85,8 @@ private:
     std::unique_ptr<const void, Release> _Content;
 };
 
-/// The formats of the numbers of a table or list, each read once. It keeps the first few only: a
+/// The formats of the numbers of a table or list, each read once: to read them each time, W1 takes
+/// 1.6 times the instructions. It keeps the first few only: a
 /// program that makes up formats has items for the numbers.
 template <typename Format>
 class VORKTRFormats
