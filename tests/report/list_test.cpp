@@ -38,19 +38,14 @@ TEST(List, AlignsItsColumns)
 
 TEST(List, TakesLinesOfAnyItem)
 {
-    {
-        VORKTRReportingList list('=');
-        list.addLine("σ", Bag({Text("p"), new Probe, Text("qr")}), "mm");
-        auto* const table = new VORKTRReportingTable(0x08);
-        table->SetText(0, 0, "x");
-        list.addLine("Table", table, "");
-        list.addLine("None", nullptr, "kN");
-        EXPECT_EQ(TextOf(list) + HtmlOf(list), Expected("list_of_items.txt"));
-        EXPECT_EQ(Probe::Destroyed, 0);
-    }
-    EXPECT_EQ(Probe::Destroyed, 1);
     VORKTRReportingList list('=');
-    for (const int capacity : {5, 5, 5, 5, 5, 10, 10, 10, 10, 10, 15}) {
+    list.addLine("σ", Bag({Text("p"), new Probe, Text("qr")}), "mm");
+    auto* const table = new VORKTRReportingTable(0x08);
+    table->SetText(0, 0, "x");
+    list.addLine("Table", table, "");
+    list.addLine("None", nullptr, "kN");
+    EXPECT_EQ(TextOf(list) + HtmlOf(list), Expected("list_of_items.txt"));
+    for (const int capacity : {5, 5, 10, 10, 10, 10, 10, 15}) {
         EXPECT_EQ(list.addLine("", 1, "", "%d"), 0);
         EXPECT_EQ(list.GetAllocatedNumber(), capacity);
     }
