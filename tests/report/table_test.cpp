@@ -130,6 +130,11 @@ TEST(Table, CentresLinesInTheirCells)
                   CellTextOf(*TableOf(0x08, {{"wide5"}, {"ab"}, {"abcd"}, {"mm²"}, {"σ αβ\nµ"}})) +
                   CellTextOf(outer),
               Expected("table_lines.txt"));
+    VORUnicodeString row;
+    const int widths[] = {3, 3};
+    for (const int number : {-1, 0, 1})
+        TableOf(0x10, {{"a", "b"}})->PrintRow(row, number, ">", "(", ")", widths);
+    EXPECT_STREQ(row.ConvertToChar(), "> ( a ) ( b ) \n");
 }
 
 TEST(Table, CellsHoldItemsOfEveryKind)
