@@ -217,7 +217,7 @@ private:
     VORKTRByteBuffer _Texts;          // of a row's cells
     std::vector<CellLines> _Cells;
     VORKTRByteBuffer _Lines;
-    bool _IsAscii = true;
+    bool _IsAscii = true; // without this W3 takes 1.04 times the instructions
 };
 
 VORKTRReportingTable::VORKTRReportingTable(unsigned long style) : _Style(style) {}
