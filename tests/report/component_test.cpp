@@ -78,7 +78,7 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
         VORComponentFactory settings;
         Settings::Answers given;
         bool hasStandard;
-        std::string first, next, copied;
+        std::string_view first, next, copied;
     } cases[] = {
         {nullptr, {0, 0, 0, ""}, false, colour, colour, ""},
         {New<VORBaseUnknown>, {0, 0, 0, ""}, false, colour, colour, ""},
@@ -112,9 +112,9 @@ TEST_F(ComponentTest, BackgroundIsTheUsersImageThenTheStandardOneThenColour)
         ASSERT_EQ(Make(), 0);
         EXPECT_EQ(Settings::Living, 0);
         for (const auto& [page, told] :
-             {std::pair("navigation.html", one.first + " ALINK=\"#0000FF\""),
-              {"page1.html", one.first},
-              {"page3.html", one.next}})
+             {std::pair("navigation.html", std::string(one.first) + " ALINK=\"#0000FF\""),
+              std::pair("page1.html", std::string(one.first)),
+              std::pair("page3.html", std::string(one.next))})
             EXPECT_TRUE(Holds(Page(page), "\n<BODY " + told + ">\n")) << page;
         for (const std::string image : {"Corp.gif", "paper.png"})
             EXPECT_EQ(fs::exists(site + "/" + image), image == one.copied) << image;
