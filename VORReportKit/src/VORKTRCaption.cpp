@@ -51,7 +51,7 @@ std::string VORKTRCaption::GetLines(int iWidth) const
 
 void VORKTRCaption::ASCIIReport(VORUnicodeString& ioText) const
 {
-    ioText.AppendBytes("\n" + PlaceLines(GetLines(CaptionWidth), OnCentre));
+    ioText.Append("\n").AppendBytes(PlaceLines(GetLines(CaptionWidth), OnCentre));
 }
 
 int VORKTRCaption::GetWidthInChar() const
