@@ -124,6 +124,8 @@ TEST(UnicodeString, KeepsItsLimits)
     text.ReplaceAll(text, text + "!");
     EXPECT_TRUE(text == "\xFF\xC3\xFF\xC3!");
     EXPECT_TRUE(VORUnicodeString(char32_t{0xD800}, 2) == "\uFFFD\uFFFD");
+    EXPECT_TRUE(VORUnicodeString(char32_t{0x10FFFF}, 1) == "\U0010FFFF");
+    EXPECT_EQ(VORUnicodeString("\U0010FFFF").GetLengthInChar(), 1);
     EXPECT_TRUE(VORUnicodeString(U'x', -1) == nullptr);
     EXPECT_TRUE(VORUnicodeString("ab", 5) == "ab");
     std::set<const char*> places; // few when an append rarely moves the text

@@ -1,23 +1,22 @@
 #!/usr/bin/env python3
-"""Compiles and checks the fenced blocks of a Markdown document.
-
-  guide.py generate DOCUMENT DIRECTORY   writes the C++ sources of the blocks into DIRECTORY
-  guide.py check DOCUMENT DIRECTORY      runs the programs built from them, which are in DIRECTORY
-
-What follows a fence's language says what its block is:
-
-  cpp declare           declarations for the blocks below it
-  cpp example=NAME      statements that fill `report`, which is then written as a single page and as
-                        text: the document shows both outputs
-  cpp run=NAME          statements that write `report` themselves
-  cpp program=NAME      a whole program
-  html of=NAME          the BODY of report/index.html without the line of the main title
-  html of=NAME file=F   the whole file F
-  text of=NAME          what NAME printed; of an example, its text report without the banner
-
-A block is its output byte for byte, the line feed before the closing fence included; with `no-eol`
-the output ends without that line feed. Each NAME runs in a process and a directory of its own.
-"""
+# Compiles and checks the fenced blocks of a Markdown document.
+#
+#   guide.py generate DOCUMENT DIRECTORY   writes the C++ sources of the blocks into DIRECTORY
+#   guide.py check DOCUMENT DIRECTORY      runs the programs built from them, which are in DIRECTORY
+#
+# What follows a fence's language says what its block is:
+#
+#   cpp declare           declarations for the blocks below it
+#   cpp example=NAME      statements that fill `report`, which is then written as a single page and as
+#                         text: the document shows both outputs
+#   cpp run=NAME          statements that write `report` themselves
+#   cpp program=NAME      a whole program
+#   html of=NAME          the BODY of report/index.html without the line of the main title
+#   html of=NAME file=F   the whole file F
+#   text of=NAME          what NAME printed; of an example, its text report without the banner
+#
+# A block is its output byte for byte, the line feed before the closing fence included; with `no-eol`
+# the output ends without that line feed. Each NAME runs in a process and a directory of its own.
 
 import difflib
 import os

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include "TestSystem.h"
 #include "VORKTRArrayTable.h"
 #include "VORKTRCharset.h"
 #include "VORKTRFigure.h"
@@ -16,13 +15,12 @@
 #include "VORKTRNumber.h"
 #include "VORKTRProse.h"
 #include "VORKTRReportTools.h"
-#include "VORKTRReportingBuffer.h"
 #include "VORKTRReportingFloat.h"
 #include "VORKTRReportingInt.h"
 #include "VORKTRReportingList.h"
-#include "VORKTRReportingText.h"
 #include "VORKTRTableCaption.h"
 #include "VORStatus.h"
+#include "report/ReportTest.h"
 #include "support/FailingMemory.h"
 #include "support/Rendering.h"
 
@@ -31,21 +29,15 @@ namespace fs = std::filesystem;
 namespace
 {
 
-class Site : public testing::Test
+class Site : public ReportTest
 {
 protected:
-    void Make() { EXPECT_EQ(_Report.MakeReport(_Directory.Path().c_str(), "Site"), VOR_S_OK); }
-    std::string Page(const std::string& iName) const { return ReadFile(_Directory.Path(iName)); }
     template <typename Item>
     Item& Add(Item* ioItem)
     {
-        _Report.AddObject(ioItem);
+        report.AddObject(ioItem);
         return *ioItem;
     }
-
-    const TemporaryDirectory _Directory;
-    const TemporaryDirectory _Source;
-    VORKTRReportingBuffer _Report;
 };
 
 } // namespace
@@ -53,22 +45,22 @@ protected:
 TEST_F(Site, LookReplacesTheStylesheetsOfTheSiteInEveryRun)
 {
     auto& look = Add(new VORKTRLook);
-    Make();
-    EXPECT_FALSE(fs::exists(_Directory.Path("navigation.css"))); // a site of one page has none
+    EXPECT_EQ(Make(), VOR_S_OK);
+    EXPECT_FALSE(fs::exists(site + "/navigation.css")); // a site of one page has none
     Add(new VORKTRHeading("A", 1));
     Add(new VORKTRHeading("B", 1));
-    _Report.Update();
+    report.Update();
     EXPECT_TRUE(Holds(Page("main.css"), "@media print"));
     EXPECT_FALSE(Holds(Page("navigation.css"), "capitalize"));
-    EXPECT_EQ(_Report.TakeWriteStatus(), VOR_S_OK);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_S_OK);
 
-    WriteFile(_Source.Path("main.css"), "p{}");
-    _Report.RemoveObject(&look);
-    Add(new VORKTRLook(_Source.Path().c_str()));
-    _Report.Update();
+    WriteFile(temporary.Path("main.css"), "p{}");
+    report.RemoveObject(&look);
+    Add(new VORKTRLook(temporary.Path().c_str()));
+    report.Update();
     EXPECT_EQ(Page("main.css"), "p{}");
     EXPECT_TRUE(Holds(Page("navigation.css"), "capitalize")); // the report's own
-    EXPECT_EQ(_Report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FILE_NOT_FOUND);
 }
 
 // A scan of 1,024 bytes finds the character set whatever a title of 350 bytes needs in front of it.
@@ -78,7 +70,7 @@ TEST_F(Site, EveryPageThatBeginsNamesItsCharacterSetEarly)
     Add(new VORKTRCharset);
     for (int order : {1, 2, 3, 1})
         Add(new VORKTRHeading(longest.c_str(), order));
-    _Report.MakeReport(_Directory.Path().c_str(), longest.c_str());
+    EXPECT_EQ(Make(longest.c_str()), VOR_S_OK);
     for (const char* name : {"page1", "page2", "page3", "page4", "navigation"}) {
         const std::string html = Page(name + std::string(".html"));
         EXPECT_LT(html.find("<META CHARSET=\"utf-8\">\n"), 1000u) << name;
@@ -88,10 +80,10 @@ TEST_F(Site, EveryPageThatBeginsNamesItsCharacterSetEarly)
 
 TEST_F(Site, LinksLeadToWhatStandsBefore)
 {
-    WriteFile(_Source.Path("a.png"), "PNG");
+    WriteFile(temporary.Path("a.png"), "PNG");
     auto& heading = Add(new VORKTRHeading("Model", 1));
     auto& figure =
-        Add(new VORKTRFigure(_Source.Path("a.png").c_str(), "<Mode> 1", "A\t\"bow\"", 30));
+        Add(new VORKTRFigure(temporary.Path("a.png").c_str(), "<Mode> 1", "A\t\"bow\"", 30));
     auto& caption = Add(new VORKTRTableCaption("Loads & supports"));
     auto& late = *new VORKTRTableCaption("Late");
     Add(new VORKTRHeading("Check", 2));
@@ -102,16 +94,16 @@ TEST_F(Site, LinksLeadToWhatStandsBefore)
     prose.AddLink(sub).Add(", ").AddLink(late).Add(" & <so> on");
     Add(&late);
     SetEnv("KTRReportODT", "1");
-    Make();
+    EXPECT_EQ(Make(), VOR_S_OK);
     EXPECT_TRUE(Holds(Page("page2.html"),
                       "<FIGURE ID=\"Figure1\">\n<IMG SRC=\"file1.png\" ALT=\"A &quot;bow&quot;\" "
                       "WIDTH=30>\n<FIGCAPTION>Figure 1: &lt;Mode&gt; 1</FIGCAPTION>"));
     EXPECT_TRUE(Holds(Page("page2.html"), "ID=\"Table1\" CLASS=\"tablecaption\" ALIGN=CENTER>"
                                           "Table 1: Loads &amp; supports</DIV>"));
-    const VORUnicodeString elsewhere(_Source.Path());
+    const VORUnicodeString elsewhere(temporary.Path());
     figure.SetBufferData(&elsewhere); // only the first directory counts
-    EXPECT_EQ(_Report.TakeWriteStatus(), VOR_S_OK);
-    EXPECT_TRUE(fs::exists(_Directory.Path("file1.png")));
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_S_OK);
+    EXPECT_TRUE(fs::exists(site + "/file1.png"));
     EXPECT_TRUE(Holds(Page("page4.html"),
                       "<P>See <A HREF=\"page2.html#0\">Model</A>, "
                       "<A HREF=\"page2.html#Figure1\">Figure 1</A>, "
@@ -120,28 +112,29 @@ TEST_F(Site, LinksLeadToWhatStandsBefore)
     EXPECT_TRUE(Holds(TextOf(prose), "See Model, Figure 1, Table 1, Sub, Table 2 & <so> on\n"));
 
     // Numbers go on in the next run; a target that is gone leaves its name.
-    EXPECT_EQ(_Report.RemoveObject(&figure), VOR_S_OK);
-    EXPECT_FALSE(fs::exists(_Directory.Path("file1.png")));
-    _Report.Update();
+    EXPECT_EQ(report.RemoveObject(&figure), VOR_S_OK);
+    EXPECT_FALSE(fs::exists(site + "/file1.png"));
+    report.Update();
     EXPECT_TRUE(Holds(Page("page4.html"), "</A>, Figure 1, <A HREF=\"page2.html#Table3\">Table 3"));
-    EXPECT_EQ(_Report.TakeWriteStatus(), VOR_S_OK);
+    EXPECT_EQ(report.TakeWriteStatus(), VOR_S_OK);
 }
 
 TEST_F(Site, SinglePageHasLinksWithinIt)
 {
     auto& link = Add(new VORKTRLink(Add(new VORKTRHeading("Only", 1))));
     EXPECT_EQ(HtmlOf(link), "Only");
-    Make();
+    EXPECT_EQ(Make(), VOR_S_OK);
     EXPECT_EQ(HtmlOf(link), "<A HREF=\"#2\">Only</A>");
     EXPECT_EQ(link.GetWidthInChar(), 4);
 }
 
 TEST_F(Site, FigureKeepsItsFileWhenMemoryRunsOut)
 {
-    const VORUnicodeString directory(_Directory.Path());
+    fs::create_directory(site);
+    const VORUnicodeString directory(site);
     for (int allocation = 1; allocation < 20; ++allocation) {
-        WriteFile(_Source.Path("a.png"), "PNG");
-        auto& figure = Add(new VORKTRFigure(_Source.Path("a.png").c_str(), "", ""));
+        WriteFile(temporary.Path("a.png"), "PNG");
+        auto& figure = Add(new VORKTRFigure(temporary.Path("a.png").c_str(), "", ""));
         FailingMemory::FailAt(allocation);
         try {
             figure.SetBufferData(&directory);
@@ -149,9 +142,9 @@ TEST_F(Site, FigureKeepsItsFileWhenMemoryRunsOut)
         }
         FailingMemory::FailAt(0);
         figure.SetBufferData(&directory);
-        EXPECT_EQ(_Report.RemoveObject(&figure), VOR_S_OK) << allocation;
+        EXPECT_EQ(report.RemoveObject(&figure), VOR_S_OK) << allocation;
     }
-    EXPECT_TRUE(fs::is_empty(_Directory.Path()) && fs::is_empty(_Source.Path()));
+    EXPECT_TRUE(fs::is_empty(site) && !fs::exists(temporary.Path("a.png")));
 }
 
 TEST(Caption, TakesANumberForTheFirstTextOnly)

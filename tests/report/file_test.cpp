@@ -1,9 +1,7 @@
-#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <regex>
 #include <string>
-#include <utility>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <filesystem>
-#include <iterator>
 #include <string>
 #include <utility>
 

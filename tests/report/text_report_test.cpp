@@ -1,5 +1,4 @@
 #include <clocale>
-#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>

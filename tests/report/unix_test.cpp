@@ -6,7 +6,6 @@
 #include <csignal>
 #include <filesystem>
 #include <string>
-#include <utility>
 
 #include <sys/resource.h>
 #include <sys/stat.h>

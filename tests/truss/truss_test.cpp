@@ -1,26 +1,12 @@
-#include <cstdlib>
-#include <filesystem>
-#include <regex>
-#include <string>
-#include <vector>
-
 #include <gtest/gtest.h>
 
 #include "TrussReader.h"
 #include "TrussSolver.h"
-#include "support/TemporaryDirectory.h"
-
-namespace fs = std::filesystem;
 
 namespace
 {
 
 using truss::Vector;
-
-std::string ModelPath(const std::string& iName)
-{
-    return std::string(MODEL_DIRECTORY "/") + iName + ".truss";
-}
 
 void ExpectNear(const Vector& iActual, const Vector& iExpected)
 {
@@ -32,7 +18,7 @@ void ExpectNear(const Vector& iActual, const Vector& iExpected)
 
 TEST(Truss, ClosedForm)
 {
-    truss::Model model = truss::ReadModel(ModelPath("two_bar"));
+    truss::Model model = truss::ReadModel(MODEL_DIRECTORY "/two_bar.truss");
     model.cases[0].loads.push_back({0, {8000, 0, 0}}); // on a support, which takes it at once
     const truss::Solver solver(model);
     const truss::Solution weight = solver.Solve(model.cases[0]);
@@ -52,7 +38,7 @@ TEST(Truss, ClosedForm)
 // The areas are those of a design whose displacements reach the limit of 0.35 in.
 TEST(Truss, TowerReachesItsLimit)
 {
-    const truss::Model model = truss::ReadModel(ModelPath("tower25"));
+    const truss::Model model = truss::ReadModel(MODEL_DIRECTORY "/tower25.truss");
     const truss::Solution solution = truss::Solver(model).Solve(model.cases[0]);
     EXPECT_NEAR(solution.displacements[0].y(), 0.35, 1e-4);
 }
