@@ -8,7 +8,10 @@
 #include "VORIKTRReporting.h"
 #include "VORIKTRReportingSettingAtt.h"
 
-VORMetaClass* InterfaceMetaObject(VORMetaClass*& ioMetaObject, const GUID& iId, const char* iName)
+using namespace VORReport;
+
+VORMetaClass* VORReport::InterfaceMetaObject(VORMetaClass*& ioMetaObject, const GUID& iId,
+                                             const char* iName)
 {
     if (ioMetaObject)
         return ioMetaObject;

@@ -8,6 +8,8 @@
 #include "VORNumberFormat.h"
 #include "VORStatus.h"
 
+using namespace VORKit;
+
 namespace
 {
 

@@ -3,6 +3,8 @@
 #include "VORKTRKitPieces.h"
 #include "VORMsgCatalog.h"
 
+using namespace VORKit;
+
 namespace
 {
 

@@ -2,6 +2,8 @@
 
 #include "VORKTRKitPieces.h"
 
+using namespace VORKit;
+
 void VORKTRCharset::Report(unsigned int iFile, const char*, unsigned char iFrames,
                            unsigned int iNavigationFile) const
 {

@@ -6,6 +6,8 @@
 #include "VORKTRReportingBuffer.h"
 #include "VORPath.h"
 
+using namespace VORKit;
+
 VORKTRFigure::VORKTRFigure(const VORUnicodeString& iPath, const VORUnicodeString& iCaption,
                            const VORUnicodeString& iAlternative, int iWidth)
     : VORKTRCaption("Figure", &VORKTRReportTools::GetFigureNumber, iCaption,

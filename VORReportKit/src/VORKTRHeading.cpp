@@ -3,6 +3,8 @@
 #include "VORKTRKitPieces.h"
 #include "VORKTRReportingBuffer.h"
 
+using namespace VORKit;
+
 VORKTRHeading::VORKTRHeading(const VORUnicodeString& iTitle, int iOrder)
     : VORKTRReportingTitle(iTitle, iOrder), VORKTRLinkTarget(iTitle)
 {

@@ -5,6 +5,8 @@
 #include "VORFile.h"
 #include "VORKTRReportTools.h"
 
+using namespace VORKit;
+
 namespace
 {
 
@@ -19,26 +21,26 @@ std::string_view TakeWord(std::string_view& ioText)
 
 } // namespace
 
-void WriteHtml(unsigned int iFile, std::string_view iHtml)
+void VORKit::WriteHtml(unsigned int iFile, std::string_view iHtml)
 {
     VORFWrite(iFile, iHtml.data(), iHtml.size(), nullptr);
 }
 
-std::string Escaped(std::string_view iText)
+std::string VORKit::Escaped(std::string_view iText)
 {
     VORUnicodeString html;
     VORKTRReportTools::AppendEscaped(html, VORUnicodeString(iText));
     return html.ToString();
 }
 
-VORUnicodeString OnOneLine(VORUnicodeString ioText)
+VORUnicodeString VORKit::OnOneLine(VORUnicodeString ioText)
 {
     ioText.ReplaceAll("\n", " ");
     ioText.ReplaceAll("\t", " ");
     return ioText;
 }
 
-std::string_view OpenCell(bool iIsHeader, Align iAlign)
+std::string_view VORKit::OpenCell(bool iIsHeader, Align iAlign)
 {
     constexpr std::string_view tags[][3] = {
         {"<TD ALIGN=LEFT>", "<TD ALIGN=CENTER>", "<TD ALIGN=RIGHT>"},
@@ -46,28 +48,28 @@ std::string_view OpenCell(bool iIsHeader, Align iAlign)
     return tags[iIsHeader][iAlign];
 }
 
-std::string_view CloseCell(bool iIsHeader)
+std::string_view VORKit::CloseCell(bool iIsHeader)
 {
     return iIsHeader ? "</TH>\n" : "</TD>\n";
 }
 
-std::string InCell(bool iIsHeader, Align iAlign, std::string_view iHtml)
+std::string VORKit::InCell(bool iIsHeader, Align iAlign, std::string_view iHtml)
 {
     return std::string(OpenCell(iIsHeader, iAlign)).append(iHtml).append(CloseCell(iIsHeader));
 }
 
-std::string LinkHtml(const VORKTRLinkTarget::Place& iPlace)
+std::string VORKit::LinkHtml(const VORKTRLinkTarget::Place& iPlace)
 {
     const std::string name = iPlace.name.ToString();
     return iPlace.href.empty() ? name : "<A HREF=\"" + iPlace.href + "\">" + name + "</A>";
 }
 
-int CountChars(std::string_view iText)
+int VORKit::CountChars(std::string_view iText)
 {
     return static_cast<int>(VORCountChars(iText.data(), iText.size()));
 }
 
-int WidestLine(std::string_view iText)
+int VORKit::WidestLine(std::string_view iText)
 {
     int width = 0;
     while (!iText.empty())
@@ -75,14 +77,14 @@ int WidestLine(std::string_view iText)
     return width;
 }
 
-std::string_view TakeLine(std::string_view& ioText)
+std::string_view VORKit::TakeLine(std::string_view& ioText)
 {
     const std::string_view line = ioText.substr(0, ioText.find('\n'));
     ioText.remove_prefix(std::min(line.size() + 1, ioText.size()));
     return line;
 }
 
-std::string BreakLines(std::string_view iText, int iWidth)
+std::string VORKit::BreakLines(std::string_view iText, int iWidth)
 {
     std::string lines;
     int used = 0; // of the line
@@ -97,7 +99,7 @@ std::string BreakLines(std::string_view iText, int iWidth)
     return lines;
 }
 
-std::string PlaceLines(std::string_view iText, int iIndent)
+std::string VORKit::PlaceLines(std::string_view iText, int iIndent)
 {
     std::string placed;
     while (!iText.empty()) {

@@ -6,6 +6,9 @@
 
 #include "VORKTRLinkTarget.h"
 
+namespace VORKit
+{
+
 constexpr int PageWidth = 80; // of the text report
 constexpr int CellWidth = 40; // of what is broken inside a cell
 
@@ -65,5 +68,7 @@ int AppendNumber(std::string& ioText, const Format& iFormat, Number iNumber)
     }
     return static_cast<int>(ioText.size() - before);
 }
+
+} // namespace VORKit
 
 #endif

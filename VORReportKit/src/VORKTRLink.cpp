@@ -2,6 +2,8 @@
 
 #include "VORKTRKitPieces.h"
 
+using namespace VORKit;
+
 VORKTRLink::VORKTRLink(const VORKTRLinkTarget& iTarget) : _Place(iTarget.GetPlace()) {}
 
 void VORKTRLink::Report(unsigned int iFile, const char*, unsigned char, unsigned int) const

@@ -7,6 +7,8 @@
 #include "VORKTRReportingBuffer.h"
 #include "VORPath.h"
 
+using namespace VORKit;
+
 namespace
 {
 

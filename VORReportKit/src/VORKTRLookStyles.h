@@ -1,6 +1,9 @@
 #ifndef VORKTRLookStyles_h
 #define VORKTRLookStyles_h
 
+namespace VORKit
+{
+
 // The stylesheets of the built-in look. The pages are in their oldest form: tags for centring that
 // nobody closes, empty paragraphs, line breaks as distance; some rules undo what that does.
 
@@ -129,5 +132,7 @@ h4, h5, h6 { padding-left: 2.7rem; }
 h3, h4, h5, h6 { color: #52606d; }
 a:first-of-type { margin-bottom: .6rem; border-bottom: 1px solid #cbd3dc; border-radius: 0; }
 )css";
+
+} // namespace VORKit
 
 #endif

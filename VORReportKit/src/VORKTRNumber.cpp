@@ -2,6 +2,8 @@
 
 #include "VORKTRKitPieces.h"
 
+using namespace VORKit;
+
 VORKTRNumber::VORKTRNumber(double iValue, const char* iFormat)
 {
     AppendNumber(_Text, VORFloatFormat(iFormat), iValue);

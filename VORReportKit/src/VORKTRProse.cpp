@@ -4,6 +4,8 @@
 
 #include "VORKTRKitPieces.h"
 
+using namespace VORKit;
+
 VORKTRProse::VORKTRProse(const VORUnicodeString& iText, int iIndent, int iCellWidth)
     : _Indent(std::clamp(iIndent, 0, PageWidth - 1)), _CellWidth(iCellWidth)
 {

@@ -3,6 +3,9 @@
 
 #include "VORFatalError.h"
 
+namespace VORReport
+{
+
 // Base of the source paths that fatal errors name.
 #define VORKTR_SOURCE_PATH "VORAnalysisReportInterfaces/VORRuxReportImpl.m/src/"
 
@@ -13,5 +16,7 @@ inline void AssertField(const void* iField, const char* iKey, const char* iSourc
     if (!iField)
         VORFatalError(iKey, nullptr, nullptr, nullptr, iSource, iPlace);
 }
+
+} // namespace VORReport
 
 #endif

@@ -5,7 +5,9 @@
 #include "VORKTRSite.h"
 #include "VORPath.h"
 
-VORUnicodeString ImageBackground(const VORUnicodeString& iFileName)
+using namespace VORReport;
+
+VORUnicodeString VORReport::ImageBackground(const VORUnicodeString& iFileName)
 {
     return VORUnicodeString("BACKGROUND=\"").Append(iFileName).Append("\"");
 }
@@ -34,7 +36,7 @@ bool IsStandardImageIn(const VORUnicodeString& iPath, int& ioFailure)
 
 } // namespace
 
-BackgroundSetting ReadBackgroundSetting()
+BackgroundSetting VORReport::ReadBackgroundSetting()
 {
     BackgroundSetting setting;
     setting.settings = FindSettings();
@@ -49,7 +51,7 @@ BackgroundSetting ReadBackgroundSetting()
     return setting;
 }
 
-VORUnicodeString ChoosePageBackground(const VORUnicodeString& iPath, int& ioFailure)
+VORUnicodeString VORReport::ChoosePageBackground(const VORUnicodeString& iPath, int& ioFailure)
 {
     const BackgroundSetting setting = ReadBackgroundSetting();
     if (setting.isStandard)

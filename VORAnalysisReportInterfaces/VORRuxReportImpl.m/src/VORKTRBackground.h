@@ -7,6 +7,9 @@
 #include "VORIKTRReportingSettingAtt.h"
 #include "VORUnicodeString.h"
 
+namespace VORReport
+{
+
 constexpr const char* StandardBackgroundImage = "Corp.gif";
 
 /// Attributes of BODY: the plain colour, or an image of the report directory.
@@ -32,5 +35,7 @@ BackgroundSetting ReadBackgroundSetting();
 /// again: the standard image when it is there, the user's when the directory it comes from exists.
 /// ioFailure notes why that could not be told.
 VORUnicodeString ChoosePageBackground(const VORUnicodeString& iPath, int& ioFailure);
+
+} // namespace VORReport
 
 #endif

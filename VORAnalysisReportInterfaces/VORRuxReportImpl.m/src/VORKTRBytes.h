@@ -6,6 +6,9 @@
 
 #include "VORUnicodeString.h"
 
+namespace VORReport
+{
+
 /// The narrow form of a text, valid as long as the text is unchanged.
 inline std::string_view BytesOf(const VORUnicodeString& iText)
 {
@@ -17,5 +20,7 @@ inline int CountChars(std::string_view iText)
 {
     return static_cast<int>(VORCountChars(iText.data(), iText.size()));
 }
+
+} // namespace VORReport
 
 #endif

@@ -7,6 +7,9 @@
 
 class VORKTRByteBuffer;
 
+namespace VORReport
+{
+
 // The parts of HTML tables that lists, tables and their cells share.
 
 constexpr std::string_view OpenRow = "<TR>\n";
@@ -54,5 +57,7 @@ void AppendTextInList(VORKTRByteBuffer& ioHtml, std::string_view iText, char iWi
 
 /// Length of a text's longest line in characters.
 int WidthOfText(std::string_view iText);
+
+} // namespace VORReport
 
 #endif

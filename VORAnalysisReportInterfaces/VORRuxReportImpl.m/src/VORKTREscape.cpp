@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+using namespace VORReport;
+
 namespace
 {
 
@@ -27,7 +29,7 @@ constexpr bool IsEscaped(char iCharacter)
 
 } // namespace
 
-std::string_view EscapeOf(char iCharacter)
+std::string_view VORReport::EscapeOf(char iCharacter)
 {
     for (const Escape& escape : Escapes) {
         if (escape.character == iCharacter)
@@ -36,7 +38,7 @@ std::string_view EscapeOf(char iCharacter)
     return {};
 }
 
-std::size_t CountUnescaped(std::string_view iText)
+std::size_t VORReport::CountUnescaped(std::string_view iText)
 {
     std::size_t at = 0;
     while (at < iText.size() && !IsEscaped(iText[at]))

@@ -3,6 +3,9 @@
 
 #include <string_view>
 
+namespace VORReport
+{
+
 /// What stands for a character in HTML; empty when it stands for itself.
 std::string_view EscapeOf(char iCharacter);
 
@@ -22,5 +25,7 @@ void EscapeHtml(std::string_view iText, Append&& iAppend)
         iText.remove_prefix(plain + 1);
     }
 }
+
+} // namespace VORReport
 
 #endif

@@ -5,13 +5,15 @@
 
 #include "VORFile.h"
 
-void SendFragment(unsigned int iFile, std::string_view iFragment)
+using namespace VORReport;
+
+void VORReport::SendFragment(unsigned int iFile, std::string_view iFragment)
 {
     std::size_t written = 0;
     VORFWrite(iFile, iFragment.data(), iFragment.size(), &written);
 }
 
-void Fragment::Send()
+void VORReport::Fragment::Send()
 {
     if (GetSize() > 0)
         SendFragment(_File, Get());

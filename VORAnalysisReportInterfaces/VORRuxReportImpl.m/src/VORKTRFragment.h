@@ -8,6 +8,9 @@
 
 #include "VORKTRBytes.h"
 
+namespace VORReport
+{
+
 /// Sends one finished fragment of HTML to a file, as one write. The close of the file
 /// tells what became of it.
 void SendFragment(unsigned int iFile, std::string_view iFragment);
@@ -20,6 +23,8 @@ std::string_view PieceOf(const Piece& iPiece)
     else
         return iPiece;
 }
+
+} // namespace VORReport
 
 /// Bytes that grow at their end.
 class VORKTRByteBuffer
@@ -37,6 +42,7 @@ public:
     template <typename... Pieces>
     void Append(const Pieces&... iPieces)
     {
+        using VORReport::PieceOf;
         char* end = MakeRoom((PieceOf(iPieces).size() + ...));
         ((end += PieceOf(iPieces).copy(end, std::string_view::npos)), ...);
         EndAt(end);
@@ -68,6 +74,9 @@ private:
     char* _Limit = nullptr;
     std::unique_ptr<char[]> _Bytes; // once the place it was given is too small
 };
+
+namespace VORReport
+{
 
 /// HTML that grows piece by piece and leaves as one write. Before anybody else writes into the
 /// page, what was put together is sent.
@@ -105,12 +114,14 @@ template <typename... Pieces>
 void WriteFragment(unsigned int iFile, const Pieces&... iPieces)
 {
     if constexpr (sizeof...(iPieces) == 1) {
-        SendFragment(iFile, PieceOf(iPieces)...);
+        SendFragment(iFile, VORReport::PieceOf(iPieces)...);
     } else {
         ShortFragment fragment(iFile);
         fragment.Append(iPieces...);
         fragment.Send();
     }
 }
+
+} // namespace VORReport
 
 #endif

@@ -7,6 +7,9 @@
 
 #include "VORNumberFormat.h"
 
+namespace VORReport
+{
+
 /// The text of an int, made on the stack unless it is long. It ends at a NUL, that of "%c" with 0.
 class IntText
 {
@@ -27,5 +30,7 @@ private:
     char _Short[64];
     std::unique_ptr<char[]> _Long;
 };
+
+} // namespace VORReport
 
 #endif

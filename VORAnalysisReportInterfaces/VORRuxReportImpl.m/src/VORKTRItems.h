@@ -4,6 +4,9 @@
 #include "VORKTRReportingTitle.h"
 #include "detail/VORKTRSteppedArray.h"
 
+namespace VORReport
+{
+
 /// Calls iVisit with each item in order. Positions emptied by a removal are skipped; items that are
 /// added on the way are visited too.
 template <typename Visit>
@@ -44,5 +47,7 @@ inline bool IsTitle(const VORKTRReportingObj& iItem, int iOrder)
     return iItem.GetType() == VORKTRReportingTitleKind &&
            static_cast<const VORKTRReportingTitle&>(iItem).GetOrder() == iOrder;
 }
+
+} // namespace VORReport
 
 #endif

@@ -7,6 +7,9 @@
 #include "VORKTRFragment.h"
 #include "VORUnicodeString.h"
 
+namespace VORReport
+{
+
 // The page of the plain-text report.
 
 constexpr int PageWidth = 80;
@@ -42,5 +45,7 @@ inline VORUnicodeString CenteredInFrame(const VORUnicodeString& iText)
         .Append(iText)
         .Append(Repeat(' ', FrameInnerWidth / 2 - length / 2));
 }
+
+} // namespace VORReport
 
 #endif

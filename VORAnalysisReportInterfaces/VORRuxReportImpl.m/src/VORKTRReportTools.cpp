@@ -5,6 +5,8 @@
 #include "VORKTREscape.h"
 #include "VORPath.h"
 
+using namespace VORReport;
+
 std::atomic<int> VORKTRReportTools::_figureNb{0};
 
 void VORKTRReportTools::InitFigureNumber()

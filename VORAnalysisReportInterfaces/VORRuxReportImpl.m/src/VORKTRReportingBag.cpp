@@ -5,6 +5,8 @@
 
 #include "VORKTRItems.h"
 
+using namespace VORReport;
+
 VORKTRReportingBag::VORKTRReportingBag() = default;
 
 VORKTRReportingBag::~VORKTRReportingBag()

@@ -12,6 +12,8 @@
 #include "VORKTRSite.h"
 #include "VORPath.h"
 
+using namespace VORReport;
+
 namespace
 {
 

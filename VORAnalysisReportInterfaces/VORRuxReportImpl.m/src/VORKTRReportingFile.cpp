@@ -14,6 +14,8 @@
 #include "VORMsgCatalog.h"
 #include "VORPath.h"
 
+using namespace VORReport;
+
 namespace
 {
 

@@ -7,6 +7,8 @@
 #include "VORKTRCell.h"
 #include "VORKTRFragment.h"
 
+using namespace VORReport;
+
 namespace
 {
 
@@ -139,14 +141,14 @@ void VORKTRReportingFloat::Report_in_Table(unsigned int iFile, const char*, unsi
     html.Send();
 }
 
-void AppendFloat(VORKTRByteBuffer& ioText, float iValue, const VORFloatFormat& iFormat)
+void VORReport::AppendFloat(VORKTRByteBuffer& ioText, float iValue, const VORFloatFormat& iFormat)
 {
     char* const text = ioText.MakeRoom(Size);
     ioText.EndAt(text + VORKTRReportingFloat::WriteText(iValue, iFormat, text));
 }
 
-void AppendFloatInTable(VORKTRByteBuffer& ioHtml, float iValue, const VORFloatFormat& iFormat,
-                        char iHeader)
+void VORReport::AppendFloatInTable(VORKTRByteBuffer& ioHtml, float iValue,
+                                   const VORFloatFormat& iFormat, char iHeader)
 {
     const CellTags cell = RightCell(iHeader);
     ioHtml.Append(cell.open);
@@ -154,7 +156,8 @@ void AppendFloatInTable(VORKTRByteBuffer& ioHtml, float iValue, const VORFloatFo
     ioHtml.Append(cell.close);
 }
 
-void AppendFloatInList(VORKTRByteBuffer& ioHtml, float iValue, const VORFloatFormat& iFormat)
+void VORReport::AppendFloatInList(VORKTRByteBuffer& ioHtml, float iValue,
+                                  const VORFloatFormat& iFormat)
 {
     const FloatText made(iValue, iFormat);
     const std::string_view text = made.Get();

@@ -7,6 +7,8 @@
 #include "VORKTRFragment.h"
 #include "VORKTRIntText.h"
 
+using namespace VORReport;
+
 namespace
 {
 
@@ -59,19 +61,20 @@ void VORKTRReportingInt::Report_in_List(unsigned int iFile, const char* iPath,
         WriteFragment(iFile, TwoEmptyCells);
 }
 
-void AppendInt(VORKTRByteBuffer& ioText, int iValue, const VORIntFormat& iFormat)
+void VORReport::AppendInt(VORKTRByteBuffer& ioText, int iValue, const VORIntFormat& iFormat)
 {
     ioText.Append(IntText(iValue, iFormat).Get());
 }
 
-void AppendIntInTable(VORKTRByteBuffer& ioHtml, int iValue, const VORIntFormat& iFormat,
-                      char iHeader)
+void VORReport::AppendIntInTable(VORKTRByteBuffer& ioHtml, int iValue, const VORIntFormat& iFormat,
+                                 char iHeader)
 {
     const CellTags cell = CenteredCell(iHeader);
     ioHtml.Append(cell.open, IntText(iValue, iFormat).Get(), cell.close);
 }
 
-void AppendIntInList(VORKTRByteBuffer& ioHtml, int iValue, const VORIntFormat& iFormat, char iWide)
+void VORReport::AppendIntInList(VORKTRByteBuffer& ioHtml, int iValue, const VORIntFormat& iFormat,
+                                char iWide)
 {
     ioHtml.Append(OpenRightTD, IntText(iValue, iFormat).Get(), CloseTD);
     if (iWide)

@@ -9,6 +9,8 @@
 #include "VORKTRFragment.h"
 #include "VORKTRLayout.h"
 
+using namespace VORReport;
+
 VORKTRReportingList::VORKTRReportingList(char separator) : _Separator(separator) {}
 
 VORKTRReportingList::~VORKTRReportingList()

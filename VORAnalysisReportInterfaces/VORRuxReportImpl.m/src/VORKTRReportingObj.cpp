@@ -3,6 +3,8 @@
 #include "VORKTRCell.h"
 #include "VORKTRFragment.h"
 
+using namespace VORReport;
+
 VORKTRReportingObj::VORKTRReportingObj() = default;
 VORKTRReportingObj::~VORKTRReportingObj() = default;
 

@@ -13,6 +13,8 @@
 #include "VORKTRLayout.h"
 #include "VORStatus.h"
 
+using namespace VORReport;
+
 namespace
 {
 

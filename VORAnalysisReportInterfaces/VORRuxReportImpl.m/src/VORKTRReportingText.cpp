@@ -10,6 +10,8 @@
 #include "VORKTRReportingFloat.h"
 #include "VORKTRReportingInt.h"
 
+using namespace VORReport;
+
 namespace
 {
 
@@ -83,7 +85,7 @@ void VORKTRReportingText::Report_in_Table(unsigned int iFile, const char*, unsig
     html.Send();
 }
 
-void AppendTextInTable(VORKTRByteBuffer& ioHtml, std::string_view iText, char iHeader)
+void VORReport::AppendTextInTable(VORKTRByteBuffer& ioHtml, std::string_view iText, char iHeader)
 {
     const CellTags cell = CenteredCell(iHeader);
     ioHtml.Append(cell.open);
@@ -91,14 +93,14 @@ void AppendTextInTable(VORKTRByteBuffer& ioHtml, std::string_view iText, char iH
     ioHtml.Append(cell.close);
 }
 
-void AppendTextInList(VORKTRByteBuffer& ioHtml, std::string_view iText, char iWide)
+void VORReport::AppendTextInList(VORKTRByteBuffer& ioHtml, std::string_view iText, char iWide)
 {
     ioHtml.Append(iWide ? "<TD ALIGN=CENTER COLSPAN=3>&nbsp;" : OpenRightTD);
     AppendEscaped(ioHtml, iText);
     ioHtml.Append(CloseTD);
 }
 
-int WidthOfText(std::string_view iText)
+int VORReport::WidthOfText(std::string_view iText)
 {
     int width = 0;
     for (auto end = iText.find('\n'); end != std::string_view::npos; end = iText.find('\n')) {

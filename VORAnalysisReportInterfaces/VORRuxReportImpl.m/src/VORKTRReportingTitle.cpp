@@ -11,6 +11,8 @@
 #include "VORKTRSite.h"
 #include "VORPath.h"
 
+using namespace VORReport;
+
 namespace
 {
 

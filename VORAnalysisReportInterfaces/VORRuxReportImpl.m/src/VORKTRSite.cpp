@@ -8,6 +8,8 @@
 #include "VORKTRStylesheets.h"
 #include "VORPath.h"
 
+using namespace VORReport;
+
 namespace
 {
 
@@ -113,51 +115,52 @@ void WriteNavigationHead(unsigned int iFile, const VORUnicodeString& iTitle,
 
 } // namespace
 
-VORUnicodeString Decimal(int iNumber)
+VORUnicodeString VORReport::Decimal(int iNumber)
 {
     VORUnicodeString text;
     text.BuildFromNum(iNumber, "%d");
     return text;
 }
 
-VORUnicodeString PageName(int iNumber)
+VORUnicodeString VORReport::PageName(int iNumber)
 {
     return PageName(Decimal(iNumber));
 }
 
-VORUnicodeString PageName(const VORUnicodeString& iWords)
+VORUnicodeString VORReport::PageName(const VORUnicodeString& iWords)
 {
     return "page" + iWords + ".html";
 }
 
-int Noted(int& ioFailure, int iStatus)
+int VORReport::Noted(int& ioFailure, int iStatus)
 {
     if (iStatus < 0 && ioFailure >= 0)
         ioFailure = iStatus;
     return iStatus;
 }
 
-int NotedUnlessMissing(int& ioFailure, int iStatus)
+int VORReport::NotedUnlessMissing(int& ioFailure, int iStatus)
 {
     return iStatus == VOR_E_FILE_NOT_FOUND ? iStatus : Noted(ioFailure, iStatus);
 }
 
-VORUnicodeString ReadLevel()
+VORUnicodeString VORReport::ReadLevel()
 {
     const char* const level = VORGetEnv("WKS_FR_ZENOA");
     return level ? VORUnicodeString(" ").Append(level) : VORUnicodeString();
 }
 
-void WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                   const VORUnicodeString& iBackground, const VORUnicodeString& iLevel)
+void VORReport::WritePageHead(unsigned int iFile, const VORUnicodeString& iTitle,
+                              const VORUnicodeString& iBackground, const VORUnicodeString& iLevel)
 {
     ShortFragment page(iFile);
     AppendPageHead(page, iTitle, iBackground, iLevel);
     page.Send();
 }
 
-void WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
-                        const VORUnicodeString& iBackground, const VORUnicodeString& iLevel)
+void VORReport::WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
+                                   const VORUnicodeString& iBackground,
+                                   const VORUnicodeString& iLevel)
 {
     ShortFragment page(iFile);
     AppendPageHead(page, iTitle, iBackground, iLevel);
@@ -165,13 +168,14 @@ void WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
     page.Send();
 }
 
-int ClosePage(unsigned int iFile)
+int VORReport::ClosePage(unsigned int iFile)
 {
     WriteFragment(iFile, "</BODY>\n</HTML>\n");
     return VORFClose(iFile);
 }
 
-int WriteStylesheets(const VORUnicodeString& iDirectory, bool iWithNavigation, int& ioFailure)
+int VORReport::WriteStylesheets(const VORUnicodeString& iDirectory, bool iWithNavigation,
+                                int& ioFailure)
 {
     const int status = WriteStylesheet(iDirectory, MainStylesName, MainStyles, ioFailure);
     if (status < 0 || !iWithNavigation)
@@ -179,9 +183,9 @@ int WriteStylesheets(const VORUnicodeString& iDirectory, bool iWithNavigation, i
     return WriteStylesheet(iDirectory, NavigationStylesName, NavigationStyles, ioFailure);
 }
 
-int OpenFrames(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
-               const VORUnicodeString& iBackground, unsigned int& oNavigationFile,
-               unsigned int& oPageFile, int& ioFailure)
+int VORReport::OpenFrames(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
+                          const VORUnicodeString& iBackground, unsigned int& oNavigationFile,
+                          unsigned int& oPageFile, int& ioFailure)
 {
     const VORUnicodeString level = ReadLevel();
     int status = WriteSiteFile(iDirectory, IndexName, ioFailure, [&](unsigned int iFile) {
@@ -205,8 +209,8 @@ int OpenFrames(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitl
     return VOR_S_OK;
 }
 
-int WriteReloadPage(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
-                    const ReloadPlace& iPlace, int& ioFailure)
+int VORReport::WriteReloadPage(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
+                               const ReloadPlace& iPlace, int& ioFailure)
 {
     return WriteSiteFile(iDirectory, ReloadName, ioFailure, [&](unsigned int iFile) {
         ShortFragment page(iFile);

@@ -3,6 +3,9 @@
 
 #include "VORUnicodeString.h"
 
+namespace VORReport
+{
+
 // The files of a site and what stands once in several of them.
 
 constexpr const char* IndexName = "index.html";
@@ -59,5 +62,7 @@ struct ReloadPlace {
 /// Writes "reload.html".
 int WriteReloadPage(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle,
                     const ReloadPlace& iPlace, int& ioFailure);
+
+} // namespace VORReport
 
 #endif

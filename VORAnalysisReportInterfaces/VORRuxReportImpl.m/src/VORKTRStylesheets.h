@@ -1,6 +1,9 @@
 #ifndef VORKTRStylesheets_h
 #define VORKTRStylesheets_h
 
+namespace VORReport
+{
+
 // The stylesheets of every site. Their uneven spacing is part of the format.
 
 constexpr const char* MainStyles = ".maintitle{\n"
@@ -154,5 +157,7 @@ constexpr const char* NavigationStyles = "h1{\n"
                                          "text-decoration : none;\n"
                                          "line-height : 2pt;\n"
                                          "}\n";
+
+} // namespace VORReport
 
 #endif

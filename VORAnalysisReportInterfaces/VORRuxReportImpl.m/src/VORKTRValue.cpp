@@ -8,6 +8,8 @@
 #include "VORKTRReportingFloat.h"
 #include "VORKTRReportingInt.h"
 
+using namespace VORReport;
+
 namespace
 {
 
