@@ -34,8 +34,8 @@ private:
 };
 
 /// The files of the process by handle. Each thread keeps the handle that it has freed last, until
-/// it ends; the others are there for all, last-in first-out. Freeing a handle needs no memory,
-/// finding its file no lock.
+/// it ends; the others are there for all, last-in first-out. In a thread that has taken a handle,
+/// freeing one needs no memory; finding the file of one needs no lock.
 namespace VORFileTable
 {
 

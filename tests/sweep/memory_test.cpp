@@ -94,7 +94,7 @@ TEST(Memory, ALineOrCellWithoutItHasNoValueAndAGridItsSize)
 
     VORKTRReportingTable table(0x08);
     table.SetText(0, 0, "a");
-    for (const auto& [row, column] : {std::pair(0, 99), std::pair(49, 1)}) {
+    for (const auto& [row, column] : {std::pair(0, 999), std::pair(49, 1)}) {
         auto* const item = new VORKTRReportingList('=');
         const int living = FailingMemory::Living;
         FailingMemory::FailAt(1);
@@ -102,6 +102,9 @@ TEST(Memory, ALineOrCellWithoutItHasNoValueAndAGridItsSize)
         EXPECT_LT(FailingMemory::Living, living) << "the item is not freed";
         EXPECT_EQ(std::pair(table.GetRowNumber(), table.GetColumnNumber()), std::pair(1, 1));
     }
+    FailingMemory::FailAt(1, true);
+    EXPECT_EQ(table.SetInt(0, 1, 7, nullptr), 0); // its number needs memory, its cell none
+    FailingMemory::FailAt(0);
     table.SetText(1, 1, "b");
     EXPECT_EQ(CellTextOf(table), "*****\n*a* *\n* *b*\n*****\n");
     ExpectSuccessWithoutMemory([&] { return table.SetText(0, 0, "t"); });

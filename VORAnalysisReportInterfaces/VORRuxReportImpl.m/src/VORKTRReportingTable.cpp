@@ -291,13 +291,15 @@ void VORKTRReportingTable::Reallocate(int row, int col)
         return;
     const int rows = std::max(_RowNb, row + 1);
     const int columns = std::max(_ColumnNb, col + 1);
-    if (rows == 1) // as tables begin: no row has to move; otherwise W4t takes 1.06 times the time
-        _Stride = std::max(_Stride, static_cast<std::size_t>(columns));
-    else if (static_cast<std::size_t>(columns) > _Stride)
+    if (rows > 1 && static_cast<std::size_t>(columns) > _Stride)
         Rearrange(rows, columns);
-    if (_Cells.size() < Offset(rows, 0))
-        _Cells.resize(Offset(rows, 0));
-    _RowNb = rows; // only now that there is memory for them
+    // In the first row no other has to move; with Rearrange W4t takes 1.06 times the time.
+    const std::size_t stride = std::max(_Stride, static_cast<std::size_t>(columns));
+    const std::size_t size = stride * static_cast<std::size_t>(rows);
+    if (_Cells.size() < size)
+        _Cells.resize(size);
+    _Stride = stride; // only now that there is memory for them
+    _RowNb = rows;
     _ColumnNb = columns;
 }
 

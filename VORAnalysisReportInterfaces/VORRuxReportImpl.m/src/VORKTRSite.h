@@ -26,8 +26,8 @@ int Noted(int& ioFailure, int iStatus);
 /// As above, but that there is no such file is not noted.
 int NotedUnlessMissing(int& ioFailure, int iStatus);
 
-/// What follows the generator's name in a page's head, read before the page is opened: a blank and
-/// the level that the environment sets, or nothing.
+/// What follows the generator's name in a page's head, a blank and the level that the environment
+/// sets, or nothing. Of a page that stays open it is read before the page is opened.
 VORUnicodeString ReadLevel();
 
 /// Each writes the beginning of a page in one write; titles and backgrounds go in as they stand.

@@ -161,8 +161,9 @@ VORStatus OpenToRead(const char* iPath, File& oFile)
 VORStatus OpenToWrite(const char* iPath, File& oFile)
 {
     VORStatus status = Open(iPath, GENERIC_WRITE, CREATE_ALWAYS, oFile);
-    if (status == VOR_E_ACCESS_DENIED) // as for a hidden file, which would lose that mark
-        status = Open(iPath, GENERIC_WRITE, TRUNCATE_EXISTING, oFile);
+    if (status == VOR_E_ACCESS_DENIED && // as for a hidden file, which would lose that mark
+        Open(iPath, GENERIC_WRITE, TRUNCATE_EXISTING, oFile) >= 0)
+        status = VOR_S_OK;
     // A directory in its place is refused in the same way, but is a failure of another kind.
     return status == VOR_E_ACCESS_DENIED && KindOf(iPath) == VORDirectory ? VOR_E_FAIL : status;
 }

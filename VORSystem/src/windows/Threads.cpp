@@ -44,7 +44,8 @@ void WINAPI EndThread(void* iValue)
 
 unsigned int VORLayer::ThreadNumber() noexcept
 {
-    return NumberOf(FlsGetValue(TheSlots().number));
+    const Slots& slots = TheSlots();
+    return TlsGetValue(slots.hasEnded) ? 0 : NumberOf(FlsGetValue(slots.number));
 }
 
 void VORLayer::SetThreadNumber(unsigned int iNumber, void (*iAtEnd)(unsigned int)) noexcept
