@@ -14,7 +14,9 @@
 // out first: a file opened right after another is closed receives the closed file's number. An
 // operation on a handle that is not open returns VOR_E_INVALID_HANDLE and does nothing. Names are
 // UTF-8. A failure of the system comes back as a negative status. Threads may use different files
-// at once.
+// at once. A thread whose thread_local objects have ended, as the main thread's in destructors of
+// static objects, gives what it closes to all: there the rule holds while no other thread opens or
+// closes a file.
 
 /// Creates or empties iPath for writing; iMode must be "w". oFile becomes the handle, 0 on failure.
 VORSYSTEM_EXPORT VORStatus VORFOpen(const VORUnicodeString& iPath, const char* iMode,

@@ -89,13 +89,13 @@ bool IsSpecial(VORFileKind iKind)
     return iKind == VORDirectory || iKind == VOROtherFile;
 }
 
-// In the directory of the target, whose own name may be as long as names can be. No other copy of
-// any process is made under the same name.
+// In the directory of the target, whose own name may be as long as names can be. No two copies of
+// one machine have the same name at a time; two machines that share a directory may come to it.
 std::string PartialName(const VORUnicodeString& iTarget)
 {
     static std::atomic<unsigned int> count{0};
     const std::string target = iTarget.ToString();
-    const std::size_t end = target.find_last_of(VORLayer::Separators) + 1; // 0 without a directory
+    const std::size_t end = target.find_last_of(VORLayer::NameBegins) + 1; // 0 without a directory
     return target.substr(0, end) + ".part" + std::to_string(VORLayer::ProcessId()) + '.' +
            std::to_string(++count);
 }

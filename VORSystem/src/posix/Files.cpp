@@ -161,6 +161,7 @@ VORStatus CloseDirectory(void* ioDirectory)
 }
 
 const char* const Separators = "/";
+const char* const NameBegins = "/";
 const char ListSeparator = ':';
 
 } // namespace VORLayer

@@ -5,6 +5,9 @@
 
 #include "VORStatus.h"
 
+namespace VORLayer
+{
+
 /// The status that stands for a failure of the system.
 inline VORStatus StatusOf(int iErrno)
 {
@@ -38,5 +41,7 @@ VORStatus StatusOfCall(Result iResult)
 {
     return iResult < 0 ? StatusOf(errno) : VOR_S_OK;
 }
+
+} // namespace VORLayer
 
 #endif

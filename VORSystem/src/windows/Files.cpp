@@ -269,6 +269,7 @@ VORStatus CloseDirectory(void* ioDirectory)
 }
 
 const char* const Separators = "/\\";
+const char* const NameBegins = "/\\:"; // in "C:name", too
 const char ListSeparator = ';';
 
 } // namespace VORLayer

@@ -4,6 +4,9 @@
 #include "VORStatus.h"
 #include "WindowsApi.h"
 
+namespace VORLayer
+{
+
 /// The status that stands for a failure of the system.
 inline VORStatus StatusOf(DWORD iError)
 {
@@ -47,5 +50,7 @@ inline VORStatus StatusOfCall(BOOL iResult)
 {
     return iResult ? VOR_S_OK : StatusOf(GetLastError());
 }
+
+} // namespace VORLayer
 
 #endif

@@ -5,6 +5,9 @@
 
 #include "WindowsApi.h"
 
+namespace VORLayer
+{
+
 /// Text for a wide call; empty when it is not UTF-8. No two texts become the same one.
 inline std::wstring Wide(const char* iText)
 {
@@ -43,5 +46,7 @@ std::wstring TextOfCall(Call iCall)
             return text;
     }
 }
+
+} // namespace VORLayer
 
 #endif
