@@ -21,6 +21,10 @@ constexpr std::string_view OpenRightTD = "<TD ALIGN=RIGHT>";
 constexpr std::string_view CloseTD = "</TD>\n";
 constexpr std::string_view CloseTH = "</TH>\n";
 constexpr std::string_view EmptyCell = "<TD>&nbsp;</TD>\n";
+// Of a list with a float, whose values fill three cells each.
+constexpr std::string_view OpenWideItemTD = "<TD ALIGN=RIGHT COLSPAN=3>";
+constexpr std::string_view OpenWideTextTD = "<TD ALIGN=CENTER COLSPAN=3>&nbsp;";
+constexpr std::string_view TwoEmptyCells = "<TD COLSPAN=2>&nbsp;</TD>\n";
 
 /// Tags around a table cell: TH when the cell lies in a styled row or column, else TD.
 struct CellTags {

@@ -14,6 +14,12 @@ namespace
 
 constexpr std::size_t Size = VORKTRReportingFloat::TextSize;
 
+// Neither a negative number nor what is no number.
+bool BeginsWithBlank(double iValue)
+{
+    return 0.0 <= iValue;
+}
+
 // Puts a '.' behind the leading digits of a text without one. False when it does not fit.
 bool PutSeparator(char* ioText, std::size_t& ioLength)
 {
@@ -32,7 +38,7 @@ bool PutSeparator(char* ioText, std::size_t& ioLength)
 // The length of the text; 0 when it does not fit.
 int Build(double iValue, const VORFloatFormat& iFormat, char* oText)
 {
-    const std::size_t blank = 0.0 <= iValue ? 1 : 0;
+    const std::size_t blank = BeginsWithBlank(iValue) ? 1 : 0;
     oText[0] = ' ';
     const int number = iFormat.Write(iValue, oText + blank, Size - blank);
     std::size_t length = blank + static_cast<std::size_t>(number);
@@ -83,7 +89,7 @@ VORKTRReportingFloat::~VORKTRReportingFloat() = default;
 int VORKTRReportingFloat::GetTextLength(float iValue, const VORFloatFormat& iFormat)
 {
     if (iFormat.HasPoint(iValue)) {
-        const int length = iFormat.GetLength(iValue) + (0.0f <= iValue ? 1 : 0);
+        const int length = iFormat.GetLength(iValue) + (BeginsWithBlank(iValue) ? 1 : 0);
         if (length < static_cast<int>(Size))
             return length;
     }
@@ -134,10 +140,10 @@ void VORKTRReportingFloat::Report_in_List(unsigned int iFile, const char*, unsig
 }
 
 void VORKTRReportingFloat::Report_in_Table(unsigned int iFile, const char*, unsigned char,
-                                           unsigned int, char cellStyle) const
+                                           unsigned int, char iHeader) const
 {
     ShortFragment html(iFile);
-    AppendFloatInTable(html, _Value, _Format, cellStyle);
+    AppendFloatInTable(html, _Value, _Format, iHeader);
     html.Send();
 }
 

@@ -1,20 +1,12 @@
 #include "VORKTRReportingInt.h"
 
 #include <cstdlib>
-#include <string_view>
 
 #include "VORKTRCell.h"
 #include "VORKTRFragment.h"
 #include "VORKTRIntText.h"
 
 using namespace VORReport;
-
-namespace
-{
-
-constexpr std::string_view TwoEmptyCells = "<TD COLSPAN=2>&nbsp;</TD>\n";
-
-} // namespace
 
 VORKTRReportingInt::VORKTRReportingInt(int value, const char* format)
     : _Value(value), _Format(format)
@@ -54,10 +46,10 @@ int VORKTRReportingInt::GetWidthInChar() const
 
 void VORKTRReportingInt::Report_in_List(unsigned int iFile, const char* iPath,
                                         unsigned char iFrames, unsigned int iNavigationFile,
-                                        char hasFloats) const
+                                        char iWide) const
 {
     VORKTRReportingObj::Report_in_List(iFile, iPath, iFrames, iNavigationFile, 0);
-    if (hasFloats)
+    if (iWide)
         WriteFragment(iFile, TwoEmptyCells);
 }
 

@@ -24,7 +24,7 @@ void VORKTRReportingObj::Report_in_List(unsigned int iFile, const char* iPath,
                                         unsigned char iFrames, unsigned int iNavigationFile,
                                         char iWide) const
 {
-    WriteFragment(iFile, iWide ? "<TD ALIGN=RIGHT COLSPAN=3>" : OpenRightTD);
+    WriteFragment(iFile, iWide ? OpenWideItemTD : OpenRightTD);
     Report(iFile, iPath, iFrames, iNavigationFile);
     WriteFragment(iFile, CloseTD);
 }

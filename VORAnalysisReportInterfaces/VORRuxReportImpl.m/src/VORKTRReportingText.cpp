@@ -95,7 +95,7 @@ void VORReport::AppendTextInTable(VORKTRByteBuffer& ioHtml, std::string_view iTe
 
 void VORReport::AppendTextInList(VORKTRByteBuffer& ioHtml, std::string_view iText, char iWide)
 {
-    ioHtml.Append(iWide ? "<TD ALIGN=CENTER COLSPAN=3>&nbsp;" : OpenRightTD);
+    ioHtml.Append(iWide ? OpenWideTextTD : OpenRightTD);
     AppendEscaped(ioHtml, iText);
     ioHtml.Append(CloseTD);
 }
