@@ -29,7 +29,7 @@ public:
     /// user's. A negative status counts as 1.
     virtual int GetDefaultBackground(unsigned char& oDefault) = 0;
 
-    /// @{ Reserved, not called by this library; they refuse with 0x80004001.
+    /// @{ Reserved, not called by this library; they refuse with VOR_E_NOTIMPL.
     virtual int GetReservedSetting1();
     virtual int GetReservedSetting2();
     virtual int GetReservedSetting3();

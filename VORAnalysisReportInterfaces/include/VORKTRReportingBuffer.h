@@ -12,10 +12,10 @@
 /// plain text for a page of 80 columns (MakeTextReport). Different reports may be made in different
 /// threads at once; one report and its items stay in one thread.
 ///
-/// Operations return 0 or a negative status, 0x80004005 for a failure without a status of its own.
-/// What they return does not say that all files arrived whole: TakeWriteStatus does. They throw
-/// std::bad_alloc when memory runs out, and what items of the application or a fatal-error handler
-/// throw; the report can then be used again and destroyed.
+/// Operations return 0 or a negative status, VOR_E_FAIL (0x80004005) for a failure without a status
+/// of its own. What they return does not say that all files arrived whole: TakeWriteStatus does.
+/// They throw std::bad_alloc when memory runs out, and what items of the application or a
+/// fatal-error handler throw; the report can then be used again and destroyed.
 class VORKTR_EXPORT VORKTRReportingBuffer
 {
 public:
@@ -60,7 +60,7 @@ public:
 
     /// The first negative status since the last call of anything that the report opened, wrote,
     /// closed, moved, copied, made or deleted, its own reason where an operation returned only
-    /// 0x80004005; 0 when all of it arrived whole. VORStatusText has the words for it. Call it when
+    /// VOR_E_FAIL; 0 when all of it arrived whole. VORStatusText has the words for it. Call it when
     /// a site is written: a full disk, for one, shows in no other status. It begins anew each time.
     int TakeWriteStatus();
 
@@ -95,7 +95,7 @@ public:
     int FramesExist() const;
 
     /// Writes "main.css" and, when withNavigation is not 0, "navigation.css" into a directory.
-    /// Returns 0, 0x80004005 when one cannot be opened, or the status of an impossible path. Being
+    /// Returns 0, VOR_E_FAIL when one cannot be opened, or the status of an impossible path. Being
     /// static, it tells no report what else went wrong; MakeReport does.
     static int MakeStylesheets(VORUnicodeString& directory, char withNavigation);
 
@@ -106,7 +106,7 @@ public:
                              unsigned int& navigationFile, unsigned int& pageFile);
 
     /// Copies a file, the background image, into the report directory, replacing one of its name.
-    /// Returns 0, 0x80004005 before the first MakeReport, or the status of the path or copy that
+    /// Returns 0, VOR_E_FAIL before the first MakeReport, or the status of the path or copy that
     /// failed.
     int CopyIcon(VORUnicodeString& iFileName, VORUnicodeString& iSourceDirectory) const;
 

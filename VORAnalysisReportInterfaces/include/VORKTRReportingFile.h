@@ -47,7 +47,7 @@ public:
     char* MoveFile(const char* directory) const;
 
     /// Deletes the file: the moved one, or the caller's own when it was never moved. Returns 0, or
-    /// 0x80004005 when it cannot be deleted.
+    /// VOR_E_FAIL when it cannot be deleted.
     int RemoveFromReport() override;
 
     int GetType() const override;

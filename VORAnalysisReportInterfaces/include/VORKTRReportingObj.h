@@ -25,6 +25,8 @@ public:
     VORKTRReportingObj();
     VORKTRReportingObj(const VORKTRReportingObj&) = delete;
     VORKTRReportingObj& operator=(const VORKTRReportingObj&) = delete;
+    /// A report has the item in its place until the destructor is done: neither that nor
+    /// RemoveFromReport may insert items into the report or remove the item itself.
     virtual ~VORKTRReportingObj();
 
     /// Called just before a report removes and destroys the item, which then deletes what it has on

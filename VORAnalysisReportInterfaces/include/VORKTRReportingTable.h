@@ -29,7 +29,7 @@ public:
 
     /// @{ Sets a cell to a number in the printf format (see VORKTRReportingInt and
     /// VORKTRReportingFloat) or to a text. An item that was there is destroyed. A double is
-    /// converted to float. Returns 0, or 0x80004005 for a negative row or column; a value that
+    /// converted to float. Returns 0, or VOR_E_FAIL for a negative row or column; a value that
     /// memory lacks for leaves its cell empty.
     int SetInt(int row, int col, int value, const char* format);
     int SetFloat(int row, int col, float value, const char* format);
@@ -38,7 +38,7 @@ public:
     /// @}
 
     /// Sets a cell to any item and takes ownership of it, also when memory runs out on the way;
-    /// never twice with the same item. Returns 0, or 0x80004005 for a null item and for a negative
+    /// never twice with the same item. Returns 0, or VOR_E_FAIL for a null item and for a negative
     /// row or column: the item stays the caller's. The table tells the item neither its report nor
     /// the directory: call SetBuffer on a heading, SetBuffer and SetBufferData on a file.
     int SetObj(int row, int col, VORKTRReportingObj* item);

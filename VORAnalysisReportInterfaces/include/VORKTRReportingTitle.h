@@ -29,9 +29,9 @@ public:
     void SetBufferData(const VORUnicodeString* iPath) override;
 
     /// Ends the page open as ioFile and opens the next one in iPath, headed iTitle, as ioFile. The
-    /// report's page number rises by 1, its anchor starts at 0. Returns 0, 0x80070057 for a null
-    /// title, or the negative status of the open that failed, with ioFile 0 and the anchor as it
-    /// was. A null iPath cannot be opened. The title must be in a report.
+    /// report's page number rises by 1, its anchor starts at 0. Returns 0, VOR_E_INVALIDARG for a
+    /// null title, or the negative status of the open that failed, with ioFile 0 and the anchor as
+    /// it was. A null iPath cannot be opened. The title must be in a report.
     int NewPage(const VORUnicodeString* iTitle, unsigned int& ioFile, const char* iPath) const;
 
 private:

@@ -23,8 +23,8 @@ public:
     /// @{ Adds a column over iValues, one for each row and iStride bytes apart: a member of an
     /// array of structures has their size. A number is a float, double, int, long or long long,
     /// shown in a printf format; a text is a std::string or a VORUnicodeString. Heading and unit
-    /// are texts, the unit below the heading; both may be empty. Returns 0, or 0x80070057 when
-    /// iValues is null although there are rows.
+    /// are texts, the unit below the heading; both may be empty. Returns 0, or VOR_E_INVALIDARG
+    /// when iValues is null although there are rows.
     template <typename Number>
     int AddColumn(const VORUnicodeString& iHeading, const VORUnicodeString& iUnit,
                   const Number* iValues, const char* iFormat, std::size_t iStride = sizeof(Number))
@@ -46,7 +46,7 @@ public:
     void AddIndexColumn(const VORUnicodeString& iHeading, int iFirst = 1);
 
     /// Shows the rows from iBegin to before iEnd only; in the beginning, all. Returns 0, or
-    /// 0x80070057 when the arrays have no such rows.
+    /// VOR_E_INVALIDARG when the arrays have no such rows.
     int SetRows(int iBegin, int iEnd);
 
     void Report(unsigned int iFile, const char* iPath, unsigned char iFrames,

@@ -40,7 +40,7 @@ void WriteFirstPageHead(unsigned int iFile, const VORUnicodeString& iTitle,
 /// Ends a page and closes it. Returns the status of the close.
 int ClosePage(unsigned int iFile);
 
-// What follows returns 0, the failure of a path as it is, or 0x80004005 when a file cannot be
+// What follows returns 0, the failure of a path as it is, or VOR_E_FAIL when a file cannot be
 // opened. ioFailure notes every failure, also of a close, by its own status.
 
 /// Writes "main.css" and, when asked to, "navigation.css".
