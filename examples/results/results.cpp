@@ -68,14 +68,16 @@ std::vector<Column> ReadTable(const std::string& iPath)
         if (line.compare(0, 3, "\xEF\xBB\xBF") == 0)
             line.erase(0, 3); // which some programs put in front of UTF-8
         const std::vector<std::string> fields = Split(line);
-        if (columns.empty())
+        if (fields == std::vector<std::string>{""})
+            continue;
+        const bool isHead = columns.empty();
+        if (isHead)
             columns = std::vector<Column>(fields.begin(), fields.end());
-        else if (fields.size() == columns.size() && line.find('"') == line.npos)
-            for (std::size_t i = 0; i < columns.size(); ++i)
-                columns[i].fields.push_back(fields[i]);
-        else if (fields != std::vector<std::string>{""})
+        if (fields.size() != columns.size() || line.find('"') != line.npos)
             throw std::runtime_error(iPath + ":" + std::to_string(number) +
                                      ": not one field, without quotes, for each column");
+        for (std::size_t i = 0; !isHead && i < columns.size(); ++i)
+            columns[i].fields.push_back(fields[i]);
     }
     if (columns.empty())
         throw std::runtime_error(iPath + ": cannot be read or is empty");
