@@ -12,13 +12,14 @@ using namespace VORKit;
 namespace
 {
 
-VORStatus WriteFile(const VORUnicodeString& iPath, const char* iText)
+VORStatus WriteStyles(const VORUnicodeString& iPath, const char* iStyles)
 {
     unsigned int file = 0;
     const VORStatus opened = VORFOpen(iPath, "w", file);
     if (opened < 0)
         return opened;
-    VORFWrite(file, iText, std::strlen(iText), nullptr); // the close tells a failure too
+    for (const char* const text : {SharedLook, iStyles})
+        VORFWrite(file, text, std::strlen(text), nullptr); // the close tells a failure too
     return VORFClose(file);
 }
 
@@ -39,7 +40,7 @@ void VORKTRLook::Replace(const char* iPath, const char* iName, const char* iStyl
     if (status >= 0 && _Directory != "")
         status = VORMakePath(_Directory, iName, source);
     if (status >= 0)
-        status = source == "" ? WriteFile(target, iStyles) : VORFCopy(source, target, 1);
+        status = source == "" ? WriteStyles(target, iStyles) : VORFCopy(source, target, 1);
     if (_Buffer)
         _Buffer->NoteWriteStatus(status);
 }

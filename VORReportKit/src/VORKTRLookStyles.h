@@ -7,18 +7,23 @@ namespace VORKit
 // The stylesheets of the built-in look. The pages are in their oldest form: tags for centring that
 // nobody closes, empty paragraphs, line breaks as distance; some rules undo what that does.
 
-constexpr const char* MainLook = R"css(:root {
+// Both begin so.
+constexpr const char* SharedLook = R"css(:root {
   --ink: #1c2733;
   --quiet: #52606d;
   --accent: #1f4e79;
   --line: #cbd3dc;
   --tint: #eaf0f6;
+  --font: system-ui, -apple-system, "Segoe UI", Roboto, "Noto Sans", "DejaVu Sans", sans-serif;
   color-scheme: light;
 }
 
 html { -webkit-text-size-adjust: none; text-size-adjust: none; }
 
-/* A frame set knows no width of a device: a phone shows it as if it were 980 pixels wide. */
+)css";
+
+constexpr const char* MainLook =
+    R"css(/* A frame set knows no width of a device: a phone shows it as if it were 980 pixels wide. */
 @media (max-device-width: 600px) and (min-width: 601px) { html { font-size: 220%; } }
 
 body {
@@ -28,7 +33,7 @@ body {
   padding: 1rem clamp(1rem, 4vw, 3rem) 4rem;
   background-color: #fff;
   color: var(--ink);
-  font: 1rem/1.55 system-ui, -apple-system, "Segoe UI", Roboto, "Noto Sans", "DejaVu Sans", sans-serif;
+  font: 1rem/1.55 var(--font);
 }
 
 body, p, h1, h2, h3, h4, h5, h6 { text-align: left; overflow-wrap: break-word; }
@@ -110,27 +115,29 @@ figcaption { max-width: 44rem; margin: .4rem auto 0; }
 )css";
 
 constexpr const char* NavigationLook =
-    R"css(html { -webkit-text-size-adjust: none; text-size-adjust: none; }
-@media (max-device-width: 600px) { html { font-size: 180%; } }
+    R"css(:root { --side: .55rem; --gap: .22rem; --step: .9rem; }
+
+/* A fifth of a phone: letters and distances that long words find room beside. */
+@media (max-device-width: 600px) { :root { --side: .2rem; --gap: .4rem; --step: .4rem; font-size: 150%; } }
 
 body {
   margin: 0;
-  padding: 1rem .6rem 2rem;
+  padding: 1rem var(--side) 2rem;
   background-color: #f3f6f9;
-  color: #1c2733;
-  font: .875rem/1.35 system-ui, -apple-system, "Segoe UI", Roboto, "Noto Sans", "DejaVu Sans", sans-serif;
+  color: var(--ink);
+  font: .875rem/1.35 var(--font);
 }
 
-a { display: block; padding: .22rem .5rem; border-radius: .25rem; color: inherit; text-decoration: none; }
+a { display: block; padding: var(--gap) var(--side); border-radius: .25rem; color: inherit; text-decoration: none; }
 a:hover, a:focus-visible { background-color: #dfe8f1; }
 nobr { white-space: normal; overflow-wrap: anywhere; }
 h1, h2, h3, h4, h5, h6 { margin: 0; font-size: inherit; font-weight: 400; }
-h1 { color: #1f4e79; font-weight: 600; }
-h2 { padding-left: .9rem; }
-h3 { padding-left: 1.8rem; }
-h4, h5, h6 { padding-left: 2.7rem; }
-h3, h4, h5, h6 { color: #52606d; }
-a:first-of-type { margin-bottom: .6rem; border-bottom: 1px solid #cbd3dc; border-radius: 0; }
+h1 { color: var(--accent); font-weight: 600; }
+h2 { padding-left: var(--step); }
+h3 { padding-left: calc(2 * var(--step)); }
+h4, h5, h6 { padding-left: calc(3 * var(--step)); }
+h3, h4, h5, h6 { color: var(--quiet); }
+a:first-of-type { margin-bottom: .6rem; border-bottom: 1px solid var(--line); border-radius: 0; }
 )css";
 
 } // namespace VORKit
