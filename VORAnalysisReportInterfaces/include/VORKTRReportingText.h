@@ -1,7 +1,7 @@
 #ifndef VORKTRReportingText_h
 #define VORKTRReportingText_h
 
-#include <memory>
+#include <optional>
 
 #include "VORKTRReportingObj.h"
 
@@ -41,7 +41,7 @@ public:
                                       const VORUnicodeString& by);
 
 private:
-    std::unique_ptr<VORUnicodeString> _AllText;
+    std::optional<VORUnicodeString> _AllText;
 };
 
 #endif

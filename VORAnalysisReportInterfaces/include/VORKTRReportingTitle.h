@@ -1,7 +1,6 @@
 #ifndef VORKTRReportingTitle_h
 #define VORKTRReportingTitle_h
 
-#include <memory>
 #include <optional>
 
 #include "VORKTRReportingObj.h"
@@ -39,7 +38,7 @@ private:
     int OpenNextPage(const VORUnicodeString& iTitle, unsigned int& ioFile,
                      const VORUnicodeString& iPath) const;
 
-    std::unique_ptr<VORUnicodeString> _Title;
+    std::optional<VORUnicodeString> _Title;
     std::optional<VORUnicodeString> _Path;
     int _Order;
 };

@@ -9,11 +9,11 @@ namespace VORReport
 // Base of the source paths that fatal errors name.
 #define VORKTR_SOURCE_PATH "VORAnalysisReportInterfaces/VORRuxReportImpl.m/src/"
 
-/// Ends in the platform's fatal error when a field that must be set is null. iPlace is the check's
-/// number within its source, fixed so that it does not move with the code.
-inline void AssertField(const void* iField, const char* iKey, const char* iSource, int iPlace)
+/// Ends in the platform's fatal error when a field that must be set is missing. iPlace is the
+/// check's number within its source, fixed so that it does not move with the code.
+inline void AssertField(bool iHasField, const char* iKey, const char* iSource, int iPlace)
 {
-    if (!iField)
+    if (!iHasField)
         VORFatalError(iKey, nullptr, nullptr, nullptr, iSource, iPlace);
 }
 

@@ -25,32 +25,29 @@ void AppendEscaped(VORKTRByteBuffer& ioHtml, std::string_view iText)
 
 } // namespace
 
-VORKTRReportingText::VORKTRReportingText() : _AllText(std::make_unique<VORUnicodeString>()) {}
+VORKTRReportingText::VORKTRReportingText() : _AllText(std::in_place) {}
 
-VORKTRReportingText::VORKTRReportingText(const VORUnicodeString& text)
-    : _AllText(std::make_unique<VORUnicodeString>(text))
-{
-}
+VORKTRReportingText::VORKTRReportingText(const VORUnicodeString& text) : _AllText(text) {}
 
 VORKTRReportingText::~VORKTRReportingText() = default;
 
 int VORKTRReportingText::WriteUnicode(const VORUnicodeString& text)
 {
-    AssertField(_AllText.get(), AllTextAssertion, Source, 70);
+    AssertField(_AllText.has_value(), AllTextAssertion, Source, 70);
     _AllText->Append(text);
     return 0;
 }
 
 int VORKTRReportingText::WriteFloat(float value, const char* format)
 {
-    AssertField(_AllText.get(), AllTextAssertion, Source, 81);
+    AssertField(_AllText.has_value(), AllTextAssertion, Source, 81);
     VORKTRReportingFloat(value, format).ASCIIReport(*_AllText);
     return 0;
 }
 
 int VORKTRReportingText::WriteInt(int value, const char* format)
 {
-    AssertField(_AllText.get(), AllTextAssertion, Source, 100);
+    AssertField(_AllText.has_value(), AllTextAssertion, Source, 100);
     VORKTRReportingInt(value, format).ASCIIReport(*_AllText);
     return 0;
 }
@@ -112,13 +109,13 @@ int VORReport::WidthOfText(std::string_view iText)
 
 int VORKTRReportingText::GetWidthInChar() const
 {
-    AssertField(_AllText.get(), AllTextAssertion, Source, 211);
+    AssertField(_AllText.has_value(), AllTextAssertion, Source, 211);
     return WidthOfText(BytesOf(*_AllText));
 }
 
 void VORKTRReportingText::ASCIIReport(VORUnicodeString& ioText) const
 {
-    AssertField(_AllText.get(), AllTextAssertion, Source, 233);
+    AssertField(_AllText.has_value(), AllTextAssertion, Source, 233);
     ioText.Append(*_AllText);
 }
 

@@ -76,7 +76,7 @@ void AppendDrawn(VORKTRByteBuffer& ioText, const VORUnicodeString& iTitle, int i
 } // namespace
 
 VORKTRReportingTitle::VORKTRReportingTitle(const VORUnicodeString& iTitle, int iOrder)
-    : _Title(std::make_unique<VORUnicodeString>(iTitle)), _Order(std::clamp(iOrder, 1, 6))
+    : _Title(iTitle), _Order(std::clamp(iOrder, 1, 6))
 {
 }
 
@@ -102,7 +102,7 @@ void VORKTRReportingTitle::Report(unsigned int iFile, const char*, unsigned char
                                   unsigned int iNavigationFile) const
 {
     AssertField(_Buffer, BufferAssertion, Source, 77);
-    AssertField(_Title.get(), TitleAssertion, Source, 78);
+    AssertField(_Title.has_value(), TitleAssertion, Source, 78);
     ++_Buffer->GetIndex();
     unsigned int file = iFile;
     if (iFrames && _Order < 3 && _Path)
@@ -154,7 +154,7 @@ int VORKTRReportingTitle::OpenNextPage(const VORUnicodeString& iTitle, unsigned 
 
 void VORKTRReportingTitle::ASCIIReport(VORUnicodeString& ioText) const
 {
-    AssertField(_Title.get(), TitleAssertion, Source, 233);
+    AssertField(_Title.has_value(), TitleAssertion, Source, 233);
     VORKTRByteBuffer block;
     block.Append(_Order <= 2 ? "\n\n" : "\n");
     AppendDrawn(block, *_Title, _Order);
@@ -164,12 +164,12 @@ void VORKTRReportingTitle::ASCIIReport(VORUnicodeString& ioText) const
 
 int VORKTRReportingTitle::GetWidthInChar() const
 {
-    AssertField(_Title.get(), TitleAssertion, Source, 225);
+    AssertField(_Title.has_value(), TitleAssertion, Source, 225);
     return _Title->GetLengthInChar();
 }
 
 void VORKTRReportingTitle::ASCIIReport_in_Table(VORUnicodeString& ioText) const
 {
-    AssertField(_Title.get(), TitleAssertion, Source, 295);
+    AssertField(_Title.has_value(), TitleAssertion, Source, 295);
     ioText.Append(*_Title);
 }
