@@ -2,11 +2,10 @@
 #define VORKTRReportingTable_h
 
 #include <cstddef>
-#include <deque>
 #include <vector>
 
 #include "VORKTRReportingObj.h"
-#include "detail/VORKTRValue.h"
+#include "detail/VORKTRCells.h"
 
 /// @{ The style of a table is a sum of these: the first row, the last row, the first column are
 /// headers; rules between the columns and a border; not centred on the page.
@@ -97,8 +96,8 @@ private:
 
     VORKTRValues _Values; // outlives the cells
     // Row-major; a row has room for _Stride cells, so that columns can be added without moving
-    // every row each time. In blocks: as one vector, W1 takes 1.06 times the time.
-    std::deque<VORKTRValue> _Cells;
+    // every row each time.
+    VORKTRCells _Cells;
     std::size_t _Stride = 0;
     int _RowNb = 0;
     int _ColumnNb = 0;

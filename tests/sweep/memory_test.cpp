@@ -1,6 +1,7 @@
 #include <climits>
 #include <memory>
 #include <new>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -81,34 +82,37 @@ void ExpectSuccessWithoutMemory(Action iAction)
     EXPECT_GT(allocations, 0) << "no memory was asked for";
 }
 
+constexpr const char* LongFormat = "too long for a string without memory: %g";
+
 TEST(Memory, ALineOrCellWithoutItHasNoValueAndAGridItsSize)
 {
     VORKTRReportingList list('=');
     list.addLine("Bc", nullptr, "kN"); // room for the next
-    ExpectSuccessWithoutMemory([&] { return list.addLine("Bc", 1.5f, "kN", "%g"); });
+    ExpectSuccessWithoutMemory([&] { return list.addLine("Bc", 1.5f, "kN", LongFormat); });
     ExpectSuccessWithoutMemory([&] { return list.addLine("", "t", ""); });
-    ExpectSuccessWithoutMemory([&] { return list.addLine("D", 8, "", "%d"); });
+    ExpectSuccessWithoutMemory([&] { return list.addLine("D", 8, "", LongFormat); });
     list.addLine("A", 5, "", "%d");
     EXPECT_EQ(TextOf(list), "  Bc = \n  Bc = \n       \n  D  = \n  A  = 5 \n"); // the unit counts
     EXPECT_EQ(list.GetWidthInChar(), 9);
 
     VORKTRReportingTable table(0x08);
     table.SetText(0, 0, "a");
-    for (const auto& [row, column] : {std::pair(0, 999), std::pair(49, 1)}) {
+    for (const auto& [row, column, missing] : // the last has more cells than 32 bits can count
+         {std::tuple(0, 999, 1), std::tuple(49, 1, 1), std::tuple(65535, 65535, 2)}) {
         auto* const item = new VORKTRReportingList('=');
         const int living = FailingMemory::Living;
-        FailingMemory::FailAt(1);
+        FailingMemory::FailAt(missing);
         EXPECT_THROW(table.SetObj(row, column, item), std::bad_alloc);
         EXPECT_LT(FailingMemory::Living, living) << "the item is not freed";
         EXPECT_EQ(std::pair(table.GetRowNumber(), table.GetColumnNumber()), std::pair(1, 1));
     }
     FailingMemory::FailAt(1, true);
-    EXPECT_EQ(table.SetInt(0, 1, 7, nullptr), 0); // its number needs memory, its cell none
+    EXPECT_EQ(table.SetInt(0, 1, 7, LongFormat), 0); // its number needs memory, its cell none
     FailingMemory::FailAt(0);
     table.SetText(1, 1, "b");
     EXPECT_EQ(CellTextOf(table), "*****\n*a* *\n* *b*\n*****\n");
     ExpectSuccessWithoutMemory([&] { return table.SetText(0, 0, "t"); });
-    ExpectSuccessWithoutMemory([&] { return table.SetFloat(1, 0, 1.5f, "%g"); });
+    ExpectSuccessWithoutMemory([&] { return table.SetFloat(1, 0, 1.5f, LongFormat); });
     EXPECT_EQ(CellTextOf(table), "****\n** *\n**b*\n****\n");
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <limits>
 #include <numeric>
 #include <string>
 #include <string_view>
@@ -25,6 +26,13 @@ constexpr unsigned long Framed = Edged | VORKTRTableRuled;
 bool IsPosition(int iRow, int iColumn)
 {
     return iRow >= 0 && iColumn >= 0 && iRow < INT_MAX && iColumn < INT_MAX;
+}
+
+// As many as can be counted when there are more, for which memory is lacking as well.
+std::size_t CountCells(std::size_t iRows, std::size_t iStride)
+{
+    constexpr std::size_t most = std::numeric_limits<std::size_t>::max();
+    return iStride > most / iRows ? most : iRows * iStride;
 }
 
 /// Width of a table, and blanks around it and its cells.
@@ -228,8 +236,8 @@ VORKTRReportingTable::~VORKTRReportingTable()
 {
     if (!_HoldsItems)
         return;
-    for (VORKTRValue& cell : _Cells) // in their order, which a deque does not keep at its end
-        cell = VORKTRValue();
+    for (std::size_t i = 0; i < _Cells.GetSize(); ++i) // in their order, as not every vector does
+        _Cells[i] = VORKTRValue();
 }
 
 // Empties a cell. An item may change its table as it ends, so that it is no longer in it by then.
@@ -295,9 +303,7 @@ void VORKTRReportingTable::Reallocate(int row, int col)
         Rearrange(rows, columns);
     // In the first row no other has to move; with Rearrange W4t takes 1.06 times the time.
     const std::size_t stride = std::max(_Stride, static_cast<std::size_t>(columns));
-    const std::size_t size = stride * static_cast<std::size_t>(rows);
-    if (_Cells.size() < size)
-        _Cells.resize(size);
+    _Cells.Grow(CountCells(static_cast<std::size_t>(rows), stride));
     _Stride = stride; // only now that there is memory for them
     _RowNb = rows;
     _ColumnNb = columns;
@@ -308,7 +314,8 @@ void VORKTRReportingTable::Rearrange(int iRows, int iColumns)
 {
     const auto columns = static_cast<std::size_t>(iColumns);
     const std::size_t stride = _Stride == 0 ? columns : std::max(columns, _Stride * 3 / 2);
-    std::deque<VORKTRValue> cells(stride * static_cast<std::size_t>(iRows));
+    VORKTRCells cells;
+    cells.Grow(CountCells(static_cast<std::size_t>(iRows), stride));
     for (int row = 0; row < _RowNb; ++row) {
         for (int column = 0; column < _ColumnNb; ++column)
             cells[static_cast<std::size_t>(row) * stride + static_cast<std::size_t>(column)] =

@@ -32,7 +32,7 @@ public:
     void Reallocate()
     {
         if (_Entries.size() == _Entries.capacity())
-            _Entries.reserve(2 * _Entries.size() + Step);
+            _Entries.reserve(2 * _Entries.size() + Least);
         if (GetSize() >= _Capacity)
             _Capacity += Step;
     }
@@ -71,6 +71,7 @@ public:
 
 private:
     static constexpr int Step = 5;
+    static constexpr std::size_t Least = 8; // with 5, W4 takes 1.05 times the time to fill
 
     std::vector<Entry> _Entries;
     int _Capacity = Step;

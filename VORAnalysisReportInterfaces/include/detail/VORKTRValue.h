@@ -3,6 +3,7 @@
 
 #include <forward_list>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "VORKTRReportingObj.h"
@@ -95,22 +96,27 @@ public:
     /// The format, which lives as long as this; null when there are too many.
     const Format* Find(const char* iFormat)
     {
-        for (const Format& format : _Formats) {
+        if (!_First)
+            return &_First.emplace(iFormat);
+        if (_First->IsMadeOf(iFormat))
+            return &*_First;
+        for (const Format& format : _Others) {
             if (format.IsMadeOf(iFormat))
                 return &format;
         }
         if (_Count == Most)
             return nullptr;
-        _Formats.emplace_front(iFormat);
+        _Others.emplace_front(iFormat);
         ++_Count;
-        return &_Formats.front();
+        return &_Others.front();
     }
 
 private:
     static constexpr int Most = 16;
 
-    std::forward_list<Format> _Formats;
-    int _Count = 0;
+    std::optional<Format> _First; // most have no other; in a node, W5 takes 1.3 times to destroy
+    std::forward_list<Format> _Others;
+    int _Count = 1; // of both
 };
 
 /// Makes the values of a table or list, and lives longer than they; a value is empty when there is
