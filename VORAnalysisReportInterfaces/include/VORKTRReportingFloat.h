@@ -44,10 +44,10 @@ public:
     int GetWidthInChar() const override;
     /// Three cells: integer part, '.', fraction.
     void Report_in_List(unsigned int iFile, const char* iPath, unsigned char iFrames,
-                        unsigned int iNavigationFile, char iWide) const override;
+                        unsigned int iNavigationFile, char hasFloats) const override;
     /// One right-aligned cell.
     void Report_in_Table(unsigned int iFile, const char* iPath, unsigned char iFrames,
-                         unsigned int iNavigationFile, char iHeader) const override;
+                         unsigned int iNavigationFile, char cellStyle) const override;
 
 private:
     float _Value;

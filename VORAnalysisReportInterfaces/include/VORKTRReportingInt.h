@@ -23,7 +23,7 @@ public:
     /// Length of the formatted number in bytes.
     int GetWidthInChar() const override;
     void Report_in_List(unsigned int iFile, const char* iPath, unsigned char iFrames,
-                        unsigned int iNavigationFile, char iWide) const override;
+                        unsigned int iNavigationFile, char hasFloats) const override;
 
 private:
     int _Value;

@@ -56,7 +56,9 @@ void WritePart(std::ostream& ioOut, const char* iShape, const Vector& iMiddle, c
 void WriteBar(std::ostream& ioOut, const Model& iModel, const Bar& iBar, double iRadius)
 {
     const Vector span = iModel.Span(iBar);
-    const Eigen::AngleAxisd turn(Eigen::Quaterniond::FromTwoVectors(Vector::UnitY(), span));
+    const Vector axis = Vector::UnitY().cross(span);
+    const Eigen::AngleAxisd turn(std::atan2(axis.norm(), span.y()),
+                                 axis.isZero(0) ? Vector::UnitX() : axis.normalized());
     WritePart(ioOut, "BAR", iModel.nodes[iBar.start].position + span / 2, turn,
               {iRadius, span.norm() / 2, iRadius});
 }

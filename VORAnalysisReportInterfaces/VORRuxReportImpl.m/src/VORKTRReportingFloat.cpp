@@ -140,10 +140,10 @@ void VORKTRReportingFloat::Report_in_List(unsigned int iFile, const char*, unsig
 }
 
 void VORKTRReportingFloat::Report_in_Table(unsigned int iFile, const char*, unsigned char,
-                                           unsigned int, char iHeader) const
+                                           unsigned int, char cellStyle) const
 {
     ShortFragment html(iFile);
-    AppendFloatInTable(html, _Value, _Format, iHeader);
+    AppendFloatInTable(html, _Value, _Format, cellStyle);
     html.Send();
 }
 

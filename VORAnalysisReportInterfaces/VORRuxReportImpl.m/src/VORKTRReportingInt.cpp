@@ -46,10 +46,10 @@ int VORKTRReportingInt::GetWidthInChar() const
 
 void VORKTRReportingInt::Report_in_List(unsigned int iFile, const char* iPath,
                                         unsigned char iFrames, unsigned int iNavigationFile,
-                                        char iWide) const
+                                        char hasFloats) const
 {
     VORKTRReportingObj::Report_in_List(iFile, iPath, iFrames, iNavigationFile, 0);
-    if (iWide)
+    if (hasFloats)
         WriteFragment(iFile, TwoEmptyCells);
 }
 
