@@ -35,11 +35,13 @@ auto OneOf(const Values& iValues)
     return std::data(iValues)[Below(std::size(iValues))];
 }
 
-// Fewer where an emulator runs the tests.
+// Fewer where an emulator runs the tests: VOR_TEST_ROUNDS per cent.
 int Rounds(int iUsual)
 {
-    const char* const share = std::getenv("VOR_TEST_ROUNDS"); // in per cent
-    return share ? iUsual * std::atoi(share) / 100 : iUsual;
+    const char* const text = std::getenv("VOR_TEST_ROUNDS");
+    const int share = text ? std::atoi(text) : 100;
+    EXPECT_TRUE(0 < share && share <= 100) << "VOR_TEST_ROUNDS is " << text;
+    return iUsual * share / 100;
 }
 
 // Pieces of an alphabet, each of one byte or some.
