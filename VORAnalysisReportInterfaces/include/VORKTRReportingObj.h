@@ -13,8 +13,10 @@ class VORKTRReportingBuffer;
 ///
 /// Items are made with new and handed to a report, bag, list or table, which owns them from the
 /// call on, also when the call throws: the item is then destroyed and its new owner as it was. An
-/// item refused with a negative status stays the caller's. Items may be nested 2,000 deep on a
-/// stack of 8 MB.
+/// item refused with a negative status stays the caller's. While an item is written or measured it
+/// must not change what holds it. Items may be nested 2,000 deep on a stack of 8 MB.
+///
+/// Texts may hold NULs, which are written as they are; that of an integer ends at one.
 ///
 /// The rendering operations share these arguments: iFile, the page being written (VORFWrite);
 /// iPath, the report directory in UTF-8; iFrames, 1 when the site has a navigation frame, else 0;

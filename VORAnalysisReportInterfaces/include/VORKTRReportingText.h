@@ -41,6 +41,7 @@ public:
                                       const VORUnicodeString& by);
 
 private:
+    // Optional because the operations check it: its absence is a fatal error.
     std::optional<VORUnicodeString> _AllText;
 };
 

@@ -38,6 +38,7 @@ private:
     int OpenNextPage(const VORUnicodeString& iTitle, unsigned int& ioFile,
                      const VORUnicodeString& iPath) const;
 
+    // Optional because the operations check it: its absence is a fatal error.
     std::optional<VORUnicodeString> _Title;
     std::optional<VORUnicodeString> _Path;
     int _Order;

@@ -45,6 +45,9 @@ TEST(Table, OwnsWhatItTakesAndDestroysItInOrder)
             EXPECT_EQ(status, Failure);
         EXPECT_EQ(TextOf(table) + HtmlOf(table), "");
         EXPECT_EQ(table.GetRowNumber() + table.GetColumnNumber() + table.GetWidthInChar(), 1);
+        table.Reallocate(-1, 3);
+        EXPECT_EQ(table.GetRowNumber(), 0);
+        EXPECT_EQ(table.GetColumnNumber(), 4);
         for (int cell = 0; cell < 200; ++cell)
             EXPECT_EQ(table.SetObj(cell / 4, cell % 4, new Numbered(0, cell)), 0);
         auto* const list = new VORKTRReportingList(':');
@@ -58,13 +61,24 @@ TEST(Table, OwnsWhatItTakesAndDestroysItInOrder)
     EXPECT_EQ(Probe::Destroyed, 205);
 }
 
-TEST(Table, SetsACellWhoseItemGrowsItAsItEnds)
+TEST(Table, AnItemMayGrowItOrItsListAsItEnds)
 {
     struct Growing : Probe {
         explicit Growing(Table& ioTable) : table(ioTable) {}
         ~Growing() override { table.SetText(0, 2 * table.GetColumnNumber(), "last"); }
         Table& table;
     };
+    struct Adding : Probe {
+        explicit Adding(VORKTRReportingList& ioList) : list(ioList) {}
+        ~Adding() override
+        {
+            while (list.GetLineNumber() < 100)
+                list.addLine("late", "value", "");
+        }
+        VORKTRReportingList& list;
+    };
+    VORKTRReportingList list(':');
+    list.addLine("first", new Adding(list), "");
     Table table(VORKTRTableNotCentered);
     EXPECT_EQ(table.SetText(1, 0, "below"), 0);
     EXPECT_EQ(table.SetObj(0, 0, new Growing(table)), 0);
@@ -72,6 +86,7 @@ TEST(Table, SetsACellWhoseItemGrowsItAsItEnds)
     EXPECT_EQ(table.SetText(0, 0, "first"), 0);
     EXPECT_EQ(table.GetColumnNumber(), 7);
     EXPECT_EQ(TextOf(table).substr(0, 9), "    first");
+    EXPECT_EQ(table.SetObj(1, 0, new Growing(table)), 0);
 }
 
 /// A cell of one letter; its page shows the style byte that it is given.

@@ -14,25 +14,28 @@ namespace
 
 constexpr std::size_t Size = VORKTRReportingFloat::TextSize;
 
-// Neither a negative number nor what is no number.
+// Numbers from 0 on do; negative ones and NaN do not.
 bool BeginsWithBlank(double iValue)
 {
     return 0.0 <= iValue;
 }
 
-// Puts a '.' behind the leading digits of a text without one. False when it does not fit.
-bool PutSeparator(char* ioText, std::size_t& ioLength)
+bool HasSeparator(std::string_view iText)
 {
-    const std::string_view text(ioText, ioLength);
-    if (text.find(VORKTRReportingFloat::float_separator()) != std::string_view::npos)
-        return true;
-    if (ioLength + 1 == Size)
-        return false;
-    const std::size_t at = std::min(text.find_first_not_of(" 0123456789-+"), ioLength);
-    std::memmove(ioText + at + 1, ioText + at, ioLength - at + 1);
+    return iText.find(VORKTRReportingFloat::float_separator()) != std::string_view::npos;
+}
+
+// Puts a '.' behind the leading digits, so that NaN is ".nan" and infinity " .inf". Returns the
+// length with it; Size when there is no room.
+std::size_t PutSeparator(char* ioText, std::size_t iLength)
+{
+    if (iLength + 1 == Size)
+        return Size;
+    const std::string_view text(ioText, iLength);
+    const std::size_t at = std::min(text.find_first_not_of(" 0123456789-+"), iLength);
+    std::memmove(ioText + at + 1, ioText + at, iLength - at + 1);
     ioText[at] = VORKTRReportingFloat::float_separator();
-    ++ioLength;
-    return true;
+    return iLength + 1;
 }
 
 // The length of the text; 0 when it does not fit.
@@ -42,9 +45,9 @@ int Build(double iValue, const VORFloatFormat& iFormat, char* oText)
     oText[0] = ' ';
     const int number = iFormat.Write(iValue, oText + blank, Size - blank);
     std::size_t length = blank + static_cast<std::size_t>(number);
-    if (length >= Size || (!iFormat.HasPoint(iValue) && !PutSeparator(oText, length)))
-        return 0;
-    return static_cast<int>(length);
+    if (length < Size && !iFormat.HasPoint(iValue) && !HasSeparator({oText, length}))
+        length = PutSeparator(oText, length);
+    return length < Size ? static_cast<int>(length) : 0;
 }
 
 /// The text of a float, made on the stack.

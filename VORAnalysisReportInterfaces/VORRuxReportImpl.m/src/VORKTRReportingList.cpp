@@ -15,8 +15,9 @@ VORKTRReportingList::VORKTRReportingList(char separator) : _Separator(separator)
 
 VORKTRReportingList::~VORKTRReportingList()
 {
-    for (int i = 0; i < _Lines.GetSize(); ++i) // in their order, which not every vector keeps
-        _Lines[i].value = VORKTRValue();
+    // In their order, which not every vector keeps at its end; an item may add lines.
+    for (int i = 0; i < _Lines.GetSize(); ++i)
+        const VORKTRValue ended = std::move(_Lines[i].value);
 }
 
 std::string_view VORKTRReportingList::LabelOf(const Line& iLine) const

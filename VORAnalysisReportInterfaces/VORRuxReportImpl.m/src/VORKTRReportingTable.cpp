@@ -28,11 +28,11 @@ bool IsPosition(int iRow, int iColumn)
     return iRow >= 0 && iColumn >= 0 && iRow < INT_MAX && iColumn < INT_MAX;
 }
 
-// As many as can be counted when there are more, for which memory is lacking as well.
+// At most what size_t holds; there is no memory for that many either.
 std::size_t CountCells(std::size_t iRows, std::size_t iStride)
 {
     constexpr std::size_t most = std::numeric_limits<std::size_t>::max();
-    return iStride > most / iRows ? most : iRows * iStride;
+    return iRows > 0 && iStride > most / iRows ? most : iRows * iStride;
 }
 
 /// Width of a table, and blanks around it and its cells.
@@ -236,8 +236,9 @@ VORKTRReportingTable::~VORKTRReportingTable()
 {
     if (!_HoldsItems)
         return;
-    for (std::size_t i = 0; i < _Cells.GetSize(); ++i) // in their order, as not every vector does
-        _Cells[i] = VORKTRValue();
+    // In their order, which not every vector keeps at its end; an item may make the table grow.
+    for (std::size_t i = 0; i < _Cells.GetSize(); ++i)
+        const VORKTRValue ended = std::move(_Cells[i]);
 }
 
 // Empties a cell. An item may change its table as it ends, so that it is no longer in it by then.

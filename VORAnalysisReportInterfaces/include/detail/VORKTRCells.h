@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 #include "VORKTRValue.h"
@@ -26,7 +25,8 @@ public:
     }
     VORKTRValue& operator[](std::size_t iIndex)
     {
-        return const_cast<VORKTRValue&>(std::as_const(*this)[iIndex]);
+        return iIndex < BlockSize ? _First[iIndex]
+                                  : _Others[iIndex / BlockSize - 1].cells[iIndex % BlockSize];
     }
     /// @}
 

@@ -104,19 +104,19 @@ public:
             if (format.IsMadeOf(iFormat))
                 return &format;
         }
-        if (_Count == Most)
+        if (_OtherCount == MostOthers)
             return nullptr;
         _Others.emplace_front(iFormat);
-        ++_Count;
+        ++_OtherCount;
         return &_Others.front();
     }
 
 private:
-    static constexpr int Most = 16;
+    static constexpr int MostOthers = 15;
 
     std::optional<Format> _First; // most have no other; in a node, W5 takes 1.3 times to destroy
     std::forward_list<Format> _Others;
-    int _Count = 1; // of both
+    int _OtherCount = 0;
 };
 
 /// Makes the values of a table or list, and lives longer than they; a value is empty when there is
