@@ -89,8 +89,9 @@ bool IsSpecial(VORFileKind iKind)
     return iKind == VORDirectory || iKind == VOROtherFile;
 }
 
-// In the directory of the target, whose own name may be as long as names can be. No two copies of
-// one machine have the same name at a time; two machines that share a directory may come to it.
+// In the directory of the target, whose own name may be as long as names can be. No two copies have
+// the same name at a time among processes that the system tells apart by number; two machines or
+// containers that share a directory may come to it.
 std::string PartialName(const VORUnicodeString& iTarget)
 {
     static std::atomic<unsigned int> count{0};

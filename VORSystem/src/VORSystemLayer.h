@@ -44,7 +44,7 @@ VORStatus CloseDirectory(void* ioDirectory);
 
 /// @{ How paths and lists of paths are written.
 extern const char* const Separators; ///< All that are understood; the first one is written.
-extern const char* const NameBegins; ///< The characters that the name in a path may follow.
+extern const char* const NameBegins; ///< The characters in front of a name: it is behind the last.
 extern const char ListSeparator;
 /// @}
 

@@ -76,7 +76,9 @@ std::vector<Column> ReadTable(const std::string& iPath)
         if (fields.size() != columns.size() || line.find('"') != line.npos)
             throw std::runtime_error(iPath + ":" + std::to_string(number) +
                                      ": not one field, without quotes, for each column");
-        for (std::size_t i = 0; !isHead && i < columns.size(); ++i)
+        if (isHead)
+            continue;
+        for (std::size_t i = 0; i < columns.size(); ++i)
             columns[i].fields.push_back(fields[i]);
     }
     if (columns.empty())

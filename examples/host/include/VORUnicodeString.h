@@ -15,7 +15,6 @@ class VORUnicodeString
 public:
     VORUnicodeString() = default;
     VORUnicodeString(const char* iText) : _Bytes(iText ? iText : "") {}
-    VORUnicodeString(const char* iText, int iLength);
     VORUnicodeString(VORUnicodeChar iChar, int iCount);
 
     VORUnicodeString& Append(const VORUnicodeString& iText);
@@ -29,7 +28,6 @@ public:
     int GetLengthInChar() const;
     int GetLengthInByte() const { return static_cast<int>(_Bytes.size()); }
     const char* ConvertToChar() const { return _Bytes.c_str(); }
-    const char* CastToCharPtr() const { return ConvertToChar(); }
 
     void BuildFromNum(int iValue, const char* iFormat);
     void ReplaceSubString(int iPosition, int iLength, const VORUnicodeString& iBy);

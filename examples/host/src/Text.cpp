@@ -3,6 +3,7 @@
 #include <clocale>
 #include <cstdio>
 #include <cstring>
+#include <type_traits>
 
 #include "VORNumberFormat.h"
 #include "VORUnicodeString.h"
@@ -124,6 +125,8 @@ std::string Print(Number iValue, const std::string& iConversion)
         static_cast<std::size_t>(std::snprintf(nullptr, 0, iConversion.c_str(), iValue)) + 1, '\0');
     std::snprintf(text.data(), text.size(), iConversion.c_str(), iValue);
     text.pop_back();
+    if constexpr (std::is_integral_v<Number>)
+        return text; // what "%c" writes is no decimal point
     const std::string point = std::localeconv()->decimal_point;
     const std::size_t at = text.find(point);
     return at == std::string::npos ? text : text.replace(at, point.size(), ".");
@@ -162,12 +165,6 @@ std::size_t VORCountChars(const char* iText, std::size_t iLength)
     for (const char* const end = iText + iLength; iText != end; ++count)
         iText += LengthOfChar(iText, end);
     return count;
-}
-
-VORUnicodeString::VORUnicodeString(const char* iText, int iLength)
-    : _Bytes(iText ? std::string(iText, static_cast<std::size_t>(std::max(iLength, 0))).c_str()
-                   : "")
-{
 }
 
 VORUnicodeString::VORUnicodeString(VORUnicodeChar iChar, int iCount)
