@@ -76,7 +76,7 @@ void Loop(benchmark::State& state)
     });
 }
 
-// What a program might keep by hand: each text, label and cell in a piece of its own.
+// What a program might keep by hand: each text, label and cell in a string of its own.
 using Document = std::vector<std::unique_ptr<std::string>>;
 
 struct HandW2 {
