@@ -254,7 +254,7 @@ std::size_t VORUnicodeString::ByteOffset(int iPosition) const
 
 VORUnicodeChar VORUnicodeString::operator[](int iPosition) const
 {
-    if (iPosition < 0 || static_cast<std::size_t>(iPosition) >= _Length)
+    if (static_cast<std::size_t>(iPosition) >= _Length) // a negative one too
         return 0;
     const char* const at = _Bytes.data() + ByteOffset(iPosition);
     return Decode(at, SequenceLength(at, _Bytes.data() + _Bytes.size()));

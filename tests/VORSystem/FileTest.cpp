@@ -76,6 +76,7 @@ TEST(File, FailuresAreReported)
         std::size_t written = 9;
         const std::string bytes(length, 'x');
         const VORStatus status = length == 1 ? VOR_S_OK : VOR_E_DISK_FULL;
+        EXPECT_EQ(VORFWrite(file, nullptr, 1, nullptr), VOR_E_INVALIDARG);
         EXPECT_EQ(VORFWrite(file, bytes.data(), length, &written), status);
         EXPECT_EQ(written, status < 0 ? 0 : length);
         EXPECT_EQ(VORFWrite(file, "x", 1, nullptr), status);

@@ -1,4 +1,5 @@
 #include <iostream>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -37,12 +38,12 @@ TEST(Messages, RegisteredTextsComeBeforeTheDefault)
 {
     const VORUnicodeString parameters[] = {"plots/p2.gif", "second"};
     const auto build = [&](const char* iCatalog, const char* iKey) {
-        return VORMsgCatalog::BuildMessage(iCatalog, iKey, parameters, 2, "/p2:/p1,/p1 /p3/p/");
+        return VORMsgCatalog::BuildMessage(iCatalog, iKey, parameters, 2, "/p2:/p1,/p1 /p3/p/ p=1");
     };
     VORMsgCatalog::RegisterMessage("Catalog", "Key", "first");
     VORMsgCatalog::RegisterMessage("Catalog", "Key", "Bild \u00E9");
     EXPECT_TRUE(build("Catalog", "Key") == "Bild \u00E9");
-    EXPECT_TRUE(build("Other", "Key") == "second:plots/p2.gif,plots/p2.gif /p3/p/");
+    EXPECT_TRUE(build("Other", "Key") == "second:plots/p2.gif,plots/p2.gif /p3/p/ p=1");
     EXPECT_TRUE(build("Catalog", "Other") == build("Other", "Key"));
 }
 
@@ -63,6 +64,8 @@ TEST(NullArguments, AreRefused)
     EXPECT_EQ(VORGetEnv(nullptr), nullptr);
     EXPECT_STREQ(VORStatusText(1), "success");
     EXPECT_STREQ(VORStatusText(VOR_E_DISK_FULL), "disk full");
+    EXPECT_EQ(VORStatusText(VOR_E_INVALIDARG) + std::string(VORStatusText(VOR_E_NOINTERFACE)),
+              "invalid argumentno such interface");
     VORRegisterComponent(nullptr, nullptr);
     VORMsgCatalog::RegisterMessage(nullptr, "key", "text");
     VORMsgCatalog::RegisterMessage("catalog", nullptr, "text");

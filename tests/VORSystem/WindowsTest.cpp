@@ -49,8 +49,6 @@ TEST(WindowsFile, NamesAreUtf8OfAnyLengthAndCase)
     EXPECT_EQ(VORRenameFile(path.c_str(), directory.Path("Short").c_str()), VOR_S_OK);
     EXPECT_TRUE(VORIsSameEntry(directory.Path("Short").c_str(), directory.Path("sHORT").c_str()));
     EXPECT_EQ(VORFOpen(directory.Path("\xE4").c_str(), "w", file), VOR_E_FILE_NOT_FOUND);
-    EXPECT_EQ(VORFCopy(directory.Path("Short").c_str(), "C:copy-of-a-test", 1), VOR_S_OK);
-    EXPECT_EQ(VORDeleteFile("C:copy-of-a-test"), VOR_S_OK); // in the directory that the drive has
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.Path()), {}), 2);
 }
 

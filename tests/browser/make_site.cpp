@@ -1,8 +1,6 @@
 // Writes the sites that the browser tests read: DIRECTORY/frames, DIRECTORY/single, DIRECTORY/kit.
 
-#include <fstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "VORKTRArrayTable.h"
@@ -17,18 +15,14 @@
 #include "VORKTRReportingText.h"
 #include "VORKTRReportingTitle.h"
 #include "VORKTRTableCaption.h"
+#include "support/TemporaryDirectory.h"
 
 namespace
 {
 
-constexpr std::string_view Drawing =
+constexpr const char* Drawing =
     "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"120\" height=\"80\">"
     "<circle cx=\"60\" cy=\"40\" r=\"30\" fill=\"purple\"/></svg>";
-
-void WriteFile(const std::string& iPath, std::string_view iBytes)
-{
-    std::ofstream(iPath, std::ios::binary) << iBytes;
-}
 
 void AddChapter(VORKTRReportingBuffer& ioReport, const VORUnicodeString& iHeading)
 {

@@ -161,6 +161,7 @@ TEST(Caption, TakesANumberForTheFirstTextOnly)
     const VORKTRFigure figure("mode.png", "Mode", "");
     EXPECT_EQ(TextOf(figure),
               "\n" + Repeat(36, " ") + "[Image]\n" + Repeat(33, " ") + "Figure 1: Mode\n\n");
+    EXPECT_TRUE(Holds(HtmlOf(figure), " ALT=\"\">\n"));
     VORKTRTableCaption::InitTableNumber();
     EXPECT_TRUE(Holds(HtmlOf(second), "Table 1: Second"));
 }
@@ -222,8 +223,7 @@ TEST(Number, AlignsWithTheFloatsOfAList)
 {
     VORKTRReportingList list('=');
     list.addLine("a", new VORKTRNumber(12.5, "%.2f"), "");
-    const std::string alone = HtmlOf(list);
-    EXPECT_TRUE(Holds(alone, "<TD ALIGN=RIGHT>12.50</TD>\n<TD ALIGN=LEFT>&nbsp;"));
+    EXPECT_TRUE(Holds(HtmlOf(list), "<TD ALIGN=RIGHT>12.50</TD>\n<TD ALIGN=LEFT>&nbsp;"));
     list.addLine("b", new VORKTRNumber(7), "");
     list.addLine("c", 1.0, "", "%.1f");
     const std::string html = HtmlOf(list);
@@ -342,4 +342,7 @@ TEST(ArrayTable, RefusesWhatItCannotShow)
     VORKTRArrayTable empty(0, 0);
     EXPECT_EQ(empty.AddColumn("a", "", std::vector<float>().data(), "%g"), VOR_S_OK);
     EXPECT_EQ(CellTextOf(empty), " a \n");
+    VORKTRArrayTable bare(VORKTRTableRuled, 0);
+    EXPECT_EQ(bare.AddColumn("", "", std::vector<float>().data(), "%g"), VOR_S_OK);
+    EXPECT_EQ(TextOf(bare), "");
 }

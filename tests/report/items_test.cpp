@@ -150,7 +150,7 @@ TEST_F(ItemsTest, ATitleWithoutReportIsFatal)
     EXPECT_DEATH(title.NewPage(nullptr, file, ""), error + "129");
 }
 
-TEST_F(ItemsTest, HaveANumberForEachKind)
+TEST_F(ItemsTest, HaveANumberForEachKindAndTextInPieces)
 {
     std::string kinds;
     for (const int kind :
@@ -161,6 +161,9 @@ TEST_F(ItemsTest, HaveANumberForEachKind)
           VORKTRReportingFloat(0, "").GetType(), VORKTRReportingInt(0, "").GetType()})
         kinds += std::to_string(kind);
     EXPECT_EQ(kinds, "012345678");
+    VORKTRReportingText text;
+    EXPECT_EQ(text.WriteUnicode("a") + text.WriteInt(7, "%d") + text.WriteFloat(1.5f, "%g"), 0);
+    EXPECT_EQ(TextOf(text), "a7 1.5");
 }
 
 TEST_F(ItemsTest, NumbersLookTheSameByThemselvesAndInTables)

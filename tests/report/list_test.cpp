@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "ReportTest.h"
+#include "VORKTRReportingInt.h"
 #include "VORKTRReportingList.h"
 #include "VORKTRReportingTable.h"
 #include "support/Rendering.h"
@@ -49,6 +50,9 @@ TEST(List, TakesLinesOfAnyItem)
         EXPECT_EQ(list.addLine("", 1, "", "%d"), 0);
         EXPECT_EQ(list.GetAllocatedNumber(), capacity);
     }
+    list.addLine("", new VORKTRReportingInt(7, "%d"), "");
+    list.addLine("", 1.5f, "", "%g");
+    EXPECT_TRUE(Holds(HtmlOf(list), ">7</TD>\n<TD COLSPAN=2>&nbsp;</TD>\n"));
 }
 
 } // namespace

@@ -159,6 +159,8 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
                 failing.AddObject(Title("", 1));
             EXPECT_EQ(failing.MakeReport(site.c_str(), "Site"), VOR_E_FAIL) << blocked;
             EXPECT_LT(failing.TakeWriteStatus(), 0) << blocked;
+            EXPECT_EQ(failing.Flush(), VOR_E_FAIL);
+            EXPECT_EQ(failing.TakeWriteStatus(), VOR_E_INVALID_HANDLE) << blocked;
         }
         written += Bodies(site) + "\n";
     }

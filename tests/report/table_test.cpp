@@ -65,7 +65,11 @@ TEST(Table, AnItemMayGrowItOrItsListAsItEnds)
 {
     struct Growing : Probe {
         explicit Growing(Table& ioTable) : table(ioTable) {}
-        ~Growing() override { table.SetText(0, 2 * table.GetColumnNumber(), "last"); }
+        ~Growing() override
+        {
+            EXPECT_FALSE(Holds(TextOf(table), "next")); // whose place is empty until then
+            table.SetText(0, 2 * table.GetColumnNumber(), "last");
+        }
         Table& table;
     };
     struct Adding : Probe {
@@ -83,6 +87,7 @@ TEST(Table, AnItemMayGrowItOrItsListAsItEnds)
     EXPECT_EQ(table.SetText(1, 0, "below"), 0);
     EXPECT_EQ(table.SetObj(0, 0, new Growing(table)), 0);
     EXPECT_EQ(table.SetObj(0, 0, new Growing(table)), 0);
+    EXPECT_EQ(table.SetObj(0, 0, Text("next")), 0);
     EXPECT_EQ(table.SetText(0, 0, "first"), 0);
     EXPECT_EQ(table.GetColumnNumber(), 7);
     EXPECT_EQ(TextOf(table).substr(0, 9), "    first");

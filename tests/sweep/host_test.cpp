@@ -1,12 +1,9 @@
-#include <clocale>
 #include <cstdlib>
 
 #include <gtest/gtest.h>
 
 #include "Program.h"
-#include "TestSystem.h"
 #include "VORHostDisk.h"
-#include "VORNumberFormat.h"
 #include "support/ExpectedSite.h"
 
 namespace
@@ -70,16 +67,6 @@ TEST(Host, PagesAreDeletedOnlyWhenTheStylesheetHasAPath)
         EXPECT_EQ(report.Update(), 0);
         EXPECT_EQ(VORHostDisk::ReadAll().count(directory + "/page1.html"), length > 240 ? 1u : 0u);
     }
-}
-
-TEST(Host, OnlyTheCommaOfANumberBecomesAPoint)
-{
-    ASSERT_TRUE(std::setlocale(LC_ALL, CommaLocale)) << "this locale must be installed";
-    char text[8];
-    VORFormatInt(',', "%c", text, sizeof text);
-    EXPECT_STREQ(text, ",");
-    VORFormatFloat(1.5, "%.1f,", text, sizeof text);
-    EXPECT_STREQ(text, "1.5,");
 }
 
 } // namespace

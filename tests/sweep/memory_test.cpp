@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "Program.h"
+#include "VORFile.h"
 #include "VORKTRReportingList.h"
 #include "VORKTRReportingTable.h"
 #include "support/ExpectedSite.h"
@@ -114,6 +115,20 @@ TEST(Memory, ALineOrCellWithoutItHasNoValueAndAGridItsSize)
     ExpectSuccessWithoutMemory([&] { return table.SetText(0, 0, "t"); });
     ExpectSuccessWithoutMemory([&] { return table.SetFloat(1, 0, 1.5f, LongFormat); });
     EXPECT_EQ(CellTextOf(table), "****\n** *\n**b*\n****\n");
+}
+
+TEST(Memory, HandlesEndWithoutAPlaceForTheirFiles)
+{
+    unsigned int file = 0, count = 0;
+    FailingMemory::FailAt(1, true);
+    while (VORFReserve(file, VOR_E_FAIL) == VOR_S_OK)
+        ++count;
+    FailingMemory::FailAt(0);
+    EXPECT_LT(count, 1000u);
+    while (VORFReserve(file, VOR_E_FAIL) == VOR_S_OK)
+        ++count;
+    EXPECT_EQ(count, 65536u);
+    EXPECT_EQ(file, 0u);
 }
 
 } // namespace

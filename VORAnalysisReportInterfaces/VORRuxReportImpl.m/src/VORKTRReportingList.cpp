@@ -16,8 +16,10 @@ VORKTRReportingList::VORKTRReportingList(char separator) : _Separator(separator)
 VORKTRReportingList::~VORKTRReportingList()
 {
     // In their order, which not every vector keeps at its end; an item may add lines.
-    for (int i = 0; i < _Lines.GetSize(); ++i)
-        const VORKTRValue ended = std::move(_Lines[i].value);
+    for (int i = 0; i < _Lines.GetSize(); ++i) {
+        if (_Lines[i].value.IsItem())
+            const VORKTRValue ended = std::move(_Lines[i].value);
+    }
 }
 
 std::string_view VORKTRReportingList::LabelOf(const Line& iLine) const

@@ -237,14 +237,16 @@ VORKTRReportingTable::~VORKTRReportingTable()
     if (!_HoldsItems)
         return;
     // In their order, which not every vector keeps at its end; an item may make the table grow.
-    for (std::size_t i = 0; i < _Cells.GetSize(); ++i)
-        const VORKTRValue ended = std::move(_Cells[i]);
+    for (std::size_t i = 0; i < _Cells.GetSize(); ++i) {
+        if (_Cells[i].IsItem())
+            const VORKTRValue ended = std::move(_Cells[i]);
+    }
 }
 
 // Empties a cell. An item may change its table as it ends, so that it is no longer in it by then.
 void VORKTRReportingTable::EndItem(int iRow, int iColumn)
 {
-    if (_HoldsItems)
+    if (_HoldsItems && CellAt(iRow, iColumn).IsItem())
         const VORKTRValue ended = std::move(CellAt(iRow, iColumn));
 }
 
