@@ -243,6 +243,7 @@ void VORKTRArrayTable::AppendHtmlRow(std::string& ioHtml, int iRow, bool iIsHead
     ioHtml += "</TR>\n";
 }
 
+// None without rows.
 std::vector<int> VORKTRArrayTable::GetWidths() const
 {
     std::vector<int> widths;
@@ -274,10 +275,11 @@ void VORKTRArrayTable::ASCIIReport_in_Table(VORUnicodeString& ioText) const
 
 void VORKTRArrayTable::AppendTable(VORUnicodeString& ioText, bool iIsInTable) const
 {
-    const int first = GetFirstRow();
-    if (_Columns.empty() || first >= _End)
+    const std::vector<int> widths = GetWidths();
+    if (widths.empty())
         return;
-    const RowWriter rows(GetWidths(), _Style, iIsInTable);
+    const int first = GetFirstRow();
+    const RowWriter rows(widths, _Style, iIsInTable);
     Texts cells(_Columns.size());
     std::string text;
     text.reserve(BlockSize * 2);

@@ -68,7 +68,7 @@ void VOROutputFile::Flush()
 // After a failure nothing more is sent: a file with a hole in its middle helps nobody.
 void VOROutputFile::Send(const void* iBytes, std::size_t iLength)
 {
-    if (_Status == VOR_S_OK && iLength > 0)
+    if (_Status == VOR_S_OK)
         _Status = VORLayer::Write(_File, iBytes, iLength);
 }
 

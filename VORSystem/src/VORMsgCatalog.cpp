@@ -28,11 +28,10 @@ VORUnicodeString TextOf(const char* iCatalog, const char* iKey, const VORUnicode
     return found == catalogs.texts.end() ? iDefault : found->second;
 }
 
-// Index of the parameter that a placeholder at iText stands for, -1 when there is none.
+// Index of the parameter that a placeholder at iText stands for, below 0 when there is none.
 int PlaceholderAt(const char* iText)
 {
-    const bool isPlaceholder =
-        iText[0] == '/' && iText[1] == 'p' && iText[2] >= '1' && iText[2] <= '9';
+    const bool isPlaceholder = iText[0] == '/' && iText[1] == 'p' && iText[2] <= '9';
     return isPlaceholder ? iText[2] - '1' : -1;
 }
 

@@ -317,7 +317,7 @@ void VORKTRReportingTable::Reallocate(int row, int col)
 void VORKTRReportingTable::Rearrange(int iRows, int iColumns)
 {
     const auto columns = static_cast<std::size_t>(iColumns);
-    const std::size_t stride = _Stride == 0 ? columns : std::max(columns, _Stride * 3 / 2);
+    const std::size_t stride = std::max(columns, _Stride * 3 / 2);
     VORKTRCells cells;
     cells.Grow(CountCells(static_cast<std::size_t>(iRows), stride));
     for (int row = 0; row < _RowNb; ++row) {
