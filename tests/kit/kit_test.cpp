@@ -29,18 +29,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-class Site : public ReportTest
-{
-protected:
-    template <typename Item>
-    Item& Add(Item* ioItem)
-    {
-        report.AddObject(ioItem);
-        return *ioItem;
-    }
-};
-
-} // namespace
+using Site = ReportTest;
 
 TEST_F(Site, LookReplacesTheStylesheetsOfTheSiteInEveryRun)
 {
@@ -232,9 +221,6 @@ TEST(Number, AlignsWithTheFloatsOfAList)
     EXPECT_TRUE(Holds(html, "<TD ALIGN=RIGHT>7</TD>\n<TD COLSPAN=2>&nbsp;</TD>\n"));
 }
 
-namespace
-{
-
 constexpr const char* Formats[] = {"%.3f", "%g", "%d", "%.0f", "% 5d", "%s", "%6.1e m\u00b2", "%c"};
 const char* const Texts[] = {"",       "node",          "a < b & c",    "two\nlines",
                              "ends\n", "\u03c3 \u00b2", "\tx\n\nthird", "a somewhat longer text"};
@@ -317,8 +303,6 @@ struct RandomTable {
     VORKTRReportingTable expected;
 };
 
-} // namespace
-
 // Of the tables the first are so large that they leave in several blocks.
 TEST(ArrayTable, LooksAsAReportingTableOfTheSameCells)
 {
@@ -346,3 +330,5 @@ TEST(ArrayTable, RefusesWhatItCannotShow)
     EXPECT_EQ(bare.AddColumn("", "", std::vector<float>().data(), "%g"), VOR_S_OK);
     EXPECT_EQ(TextOf(bare), "");
 }
+
+} // namespace

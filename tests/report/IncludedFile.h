@@ -27,9 +27,7 @@ protected:
     /// A sound of the report: its page shows nothing but its path.
     VORKTRReportingFile* AddFile(const std::string& iPath)
     {
-        auto* const item = new VORKTRReportingFile(VORKTRReportingSound, iPath.c_str());
-        Add({item});
-        return item;
+        return &Add(new VORKTRReportingFile(VORKTRReportingSound, iPath.c_str()));
     }
 
     VORKTRReportingFile* Send(VORKTRReportingFile* ioItem)

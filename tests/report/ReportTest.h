@@ -80,6 +80,12 @@ protected:
         for (VORKTRReportingObj* const item : iItems)
             EXPECT_EQ(report.AddObject(item), 0);
     }
+    template <typename Item>
+    Item& Add(Item* iItem)
+    {
+        Add({iItem});
+        return *iItem;
+    }
     int Make(const char* iTitle = "Site") { return report.MakeReport(site.c_str(), iTitle); }
     std::string Page(const std::string& iName) const { return ReadFile(site + "/" + iName); }
 

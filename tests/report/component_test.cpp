@@ -132,8 +132,8 @@ void ExpectInterface(const char* iName, const GUID& iExported, const GUID& iId)
 {
     VORMetaClass* const entered = VORFindInDictionary(iId);
     ASSERT_NE(entered, nullptr) << iName;
-    EXPECT_TRUE(Interface::MetaObject() == entered && Interface::ClassId() == iId);
-    EXPECT_TRUE(iExported == iId);
+    EXPECT_TRUE(Interface::MetaObject() == entered && Interface::ClassId() == iId &&
+                iExported == iId);
     EXPECT_STREQ(Interface::ClassName(), iName);
     EXPECT_STREQ(entered->GetFWname(), "VORAnalysisReportInterfaces");
     EXPECT_EQ(entered->GetBase(), VORBaseUnknown::MetaObject());

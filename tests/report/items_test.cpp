@@ -38,8 +38,7 @@ TEST_F(ItemsTest, KeepTheirPositionsInAReport)
     EXPECT_EQ(report.InsertObjectAtIndex(&stranger, 0), VOR_E_FAIL);
     std::vector<Probe*> items;
     for (const int capacity : {5, 5, 5, 5, 5, 10, 10, 10, 10, 10}) {
-        items.push_back(new Seeking(-7));
-        Add({items.back()});
+        items.push_back(&Add(new Seeking(-7)));
         EXPECT_EQ(report.GetAllocatedNumber(), capacity);
     }
     const int refusals[] = {
@@ -78,11 +77,10 @@ TEST_F(ItemsTest, MayThrowOrBringOthersWhenTaken)
     };
     auto* const bag = Bag({new Probe, new Probe, new Probe, new Probe, new Probe});
     Add({bag, new Probe, new Probe, new Probe});
-    auto* const second = new Leading;
-    Add({second});
+    const auto& second = Add(new Leading);
     EXPECT_EQ(Counts(report.GetObjectNumber(), report.GetAllocatedNumber()), Counts(6, 10));
     int index = 0;
-    EXPECT_TRUE(report.GetObjectIndex(second->first, index) == 0 && index == 4);
+    EXPECT_TRUE(report.GetObjectIndex(second.first, index) == 0 && index == 4);
     Add({new Probe, new Probe, new Probe, new Probe});
     EXPECT_THROW(report.AddObject(new Refusing), std::runtime_error);
     EXPECT_THROW(report.InsertObjectAtIndex(new Refusing, 0), std::runtime_error);
@@ -103,13 +101,12 @@ TEST_F(ItemsTest, ABagStandsForItsChildren)
 
     // A child taken now learns the directory with the next run, an item of the report at once.
     auto* const late = new Probe;
-    auto* const added = new Probe;
     auto* const inserted = new Probe;
     bag->AddObject(late);
-    Add({added});
+    const auto& added = Add(new Probe);
     EXPECT_EQ(report.InsertObjectAtIndex(inserted, 0), 0);
     EXPECT_EQ(late->GetBuffer(), &report);
-    EXPECT_EQ(late->directory + added->directory + inserted->directory, site + site);
+    EXPECT_EQ(late->directory + added.directory + inserted->directory, site + site);
     ASSERT_EQ(Make(), 0);
     EXPECT_EQ(late->directory, site);
 
@@ -126,16 +123,15 @@ TEST_F(ItemsTest, ABagStandsForItsChildren)
 
 TEST_F(ItemsTest, NewPageSaysWhyThereIsNone)
 {
-    auto* const title = Title("A", 1);
-    Add({title});
+    const auto& title = Add(Title("A", 1));
     ASSERT_EQ(Make(), 0);
     const VORUnicodeString heading("New");
     unsigned int file = 0;
-    EXPECT_EQ(title->NewPage(nullptr, file, site.c_str()), VOR_E_INVALIDARG);
+    EXPECT_EQ(title.NewPage(nullptr, file, site.c_str()), VOR_E_INVALIDARG);
     EXPECT_EQ(Counts(report.GetPagesNumber(), report.GetIndex()), Counts(1, 2));
-    EXPECT_LT(title->NewPage(&heading, file, (site + "/none").c_str()), 0);
+    EXPECT_LT(title.NewPage(&heading, file, (site + "/none").c_str()), 0);
     EXPECT_EQ(Counts(report.GetPagesNumber(), report.GetIndex()), Counts(2, 2));
-    EXPECT_EQ(title->NewPage(&heading, file, site.c_str()), 0);
+    EXPECT_EQ(title.NewPage(&heading, file, site.c_str()), 0);
     EXPECT_EQ(Counts(report.GetPagesNumber(), report.GetIndex()), Counts(3, 0));
     EXPECT_EQ(VORFClose(file), 0);
 }
@@ -164,6 +160,9 @@ TEST_F(ItemsTest, HaveANumberForEachKindAndTextInPieces)
     VORKTRReportingText text;
     EXPECT_EQ(text.WriteUnicode("a") + text.WriteInt(7, "%d") + text.WriteFloat(1.5f, "%g"), 0);
     EXPECT_EQ(TextOf(text), "a7 1.5");
+    VORUnicodeString replaced("a€b€"); // what is put in is not searched again
+    VORKTRReportingText::ReplaceAllOccurrences(replaced, "€", "€a");
+    EXPECT_STREQ(replaced.ConvertToChar(), "a€ab€a");
 }
 
 TEST_F(ItemsTest, NumbersLookTheSameByThemselvesAndInTables)
@@ -190,6 +189,7 @@ TEST_F(ItemsTest, NumbersLookTheSameByThemselvesAndInTables)
     const std::pair<const char*, std::string> ints[] = {
         {"%i", "42"}, {"%#x", "0x2a"}, {"%c", "*"}, {"%-4d|", "42  |"}, {"%d%d", "42"}};
     ASSERT_TRUE(std::setlocale(LC_ALL, CommaLocale)) << "this locale must be installed";
+    EXPECT_EQ(VORKTRReportingList::float_separator(), ',');
     VORKTRReportingTable table(0x10);
     std::string cells;
     for (const auto& [value, format, text] : floats) {

@@ -166,14 +166,13 @@ TEST_F(SiteTest, FailuresBeforeTheItemsEndTheRun)
     }
     EXPECT_EQ(written, Expected("failed_runs.txt"));
 
-    auto* const late = new Probe;
     Add({Title("One", 1), Title("Two", 1)});
     EXPECT_EQ(Make(), VOR_E_FAIL); // page1.html is still in its way
-    Add({late});
-    EXPECT_EQ(late->directory, ""); // told by the run that gets to its items
+    const auto& late = Add(new Probe);
+    EXPECT_EQ(late.directory, ""); // told by the run that gets to its items
     fs::remove(site + "/page1.html");
     EXPECT_EQ(Make(), 0);
-    EXPECT_EQ(late->directory, site);
+    EXPECT_EQ(late.directory, site);
     for (unsigned int expected = 3, file = 0; expected > 0; --expected) { // closed by that run
         ASSERT_EQ(VORFOpen(NullDevice, "w", file), 0);
         EXPECT_LE(file, 3u);

@@ -1,13 +1,8 @@
-#include <clocale>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "ReportTest.h"
-#include "VORKTRReportingFloat.h"
-#include "VORKTRReportingInt.h"
-#include "VORKTRReportingList.h"
-#include "VORKTRReportingTable.h"
 #include "support/Rendering.h"
 
 namespace
@@ -38,15 +33,6 @@ TEST_F(TextReport, HeadingsAreDrawnByTheirLevel)
         }
     }
     EXPECT_EQ(text, Expected("headings.txt"));
-}
-
-TEST_F(TextReport, SeparatorsFollowTheLocaleAndReplacementsAreNotSearchedAgain)
-{
-    ASSERT_TRUE(std::setlocale(LC_ALL, CommaLocale)) << "this locale must be installed";
-    EXPECT_EQ(VORKTRReportingList::float_separator(), ',');
-    VORUnicodeString text("a€b€");
-    VORKTRReportingText::ReplaceAllOccurrences(text, "€", "€a");
-    EXPECT_STREQ(text.ConvertToChar(), "a€ab€a");
 }
 
 } // namespace

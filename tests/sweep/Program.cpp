@@ -54,6 +54,38 @@ Item* Add(VORKTRReportingBuffer& ioReport, Item* iItem)
     return iItem;
 }
 
+// The included files that a page names are there.
+void ExpectSources(const std::string& iPage, const Files& iFiles)
+{
+    const std::string source = "SRC=\"";
+    for (std::size_t at = 0; (at = iPage.find(source, at)) != std::string::npos;) {
+        at += source.size();
+        const std::filesystem::path path = iPage.substr(at, iPage.find('"', at) - at);
+        EXPECT_TRUE(std::any_of(iFiles.begin(), iFiles.end(), [&](const auto& iFile) {
+            return std::filesystem::path(iFile.first).filename() == path.filename();
+        })) << path;
+    }
+}
+
+void ExpectWholeOrHarmless(const Outcome& iOutcome, const Outcome& iRight)
+{
+    EXPECT_EQ(iOutcome.left, 0);
+    const bool isComparable = iOutcome.isWhole && !iOutcome.mayLack;
+    EXPECT_TRUE(!isComparable || iOutcome.files == iRight.files);
+    const auto isThere = [&](const std::string& iBytes) {
+        return std::any_of(iOutcome.files.begin(), iOutcome.files.end(),
+                           [&](const auto& iFile) { return iFile.second == iBytes; });
+    };
+    for (const auto& [name, bytes] : Sources)
+        EXPECT_TRUE(isThere(bytes) || name == "a.gif") << name << " is lost";
+    for (const auto& [name, bytes] : iOutcome.rewritten) {
+        if (name.find("again/") == 0)
+            ExpectSources(bytes, iOutcome.rewritten);
+    }
+    const auto own = iOutcome.files.find("own");
+    EXPECT_TRUE(own == iOutcome.files.end() || std::string("own").find(own->second) == 0);
+}
+
 } // namespace
 
 Program::Program(const std::string& iRoot) : _Root(iRoot)
@@ -119,43 +151,6 @@ void Program::Rewrite()
 {
     EXPECT_EQ(_Report.MakeReport((_Root + "/again").c_str(), "Again"), 0);
 }
-
-namespace
-{
-
-// The included files that a page names are there.
-void ExpectSources(const std::string& iPage, const Files& iFiles)
-{
-    const std::string source = "SRC=\"";
-    for (std::size_t at = 0; (at = iPage.find(source, at)) != std::string::npos;) {
-        at += source.size();
-        const std::filesystem::path path = iPage.substr(at, iPage.find('"', at) - at);
-        EXPECT_TRUE(std::any_of(iFiles.begin(), iFiles.end(), [&](const auto& iFile) {
-            return std::filesystem::path(iFile.first).filename() == path.filename();
-        })) << path;
-    }
-}
-
-void ExpectWholeOrHarmless(const Outcome& iOutcome, const Outcome& iRight)
-{
-    EXPECT_EQ(iOutcome.left, 0);
-    const bool isComparable = iOutcome.isWhole && !iOutcome.mayLack;
-    EXPECT_TRUE(!isComparable || iOutcome.files == iRight.files);
-    const auto isThere = [&](const std::string& iBytes) {
-        return std::any_of(iOutcome.files.begin(), iOutcome.files.end(),
-                           [&](const auto& iFile) { return iFile.second == iBytes; });
-    };
-    for (const auto& [name, bytes] : Sources)
-        EXPECT_TRUE(isThere(bytes) || name == "a.gif") << name << " is lost";
-    for (const auto& [name, bytes] : iOutcome.rewritten) {
-        if (name.find("again/") == 0)
-            ExpectSources(bytes, iOutcome.rewritten);
-    }
-    const auto own = iOutcome.files.find("own");
-    EXPECT_TRUE(own == iOutcome.files.end() || std::string("own").find(own->second) == 0);
-}
-
-} // namespace
 
 void Sweep(const Outcome& iRight, const std::function<Outcome(int)>& iRun)
 {
