@@ -66,7 +66,7 @@ std::string RandomFormat()
     const std::string flags[] = {"", "", "-", "+", " ", "0", "#", "'", "0-", " +", "#0+ "};
     const std::string sizes[] = {"", "", "1", "12", "40", ".", "20.6", "9.20", "30.40", "ll"};
     if (Below(4) == 0)
-        return "%" + Random("%%%%dddxcgf*.0349999-+ #nsfa$hl", Below(9));
+        return "%" + Random("%%%%dddxcgf*.0349999-+ #nsfa$~hl", Below(9));
     const std::string size = Below(2) == 0 ? OneOf(sizes) : "." + std::to_string(Below(14));
     const std::string around[] = {"", "", "a%%", "\u20AC"};
     return OneOf(around) + "%" + OneOf(flags) + size + OneOf(std::string("fffFeEgGaAdddiuoxXc")) +
