@@ -207,6 +207,7 @@ TEST_F(ItemsTest, NumbersLookTheSameByThemselvesAndInTables)
     char text[VORKTRReportingFloat::TextSize];
     EXPECT_EQ(VORKTRReportingFloat::WriteText(1e15 / 3, VORFloatFormat("%.20f"), text), 19);
     EXPECT_STREQ(text, " 333333333333333.31");
+    EXPECT_EQ(VORKTRReportingFloat::WriteText(3.f, VORFloatFormat("%27.0f"), text), 29);
     EXPECT_EQ(VORKTRReportingFloat::WriteText(3.f, VORFloatFormat("%28.0f"), text), 3); // no room
 }
 
