@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -127,6 +128,9 @@ void Publish(const std::string& iTable, const std::string& iDirectory)
     VORKTRReportingBuffer report;
     report.AddObject(new VORKTRCharset);
     report.AddObject(new VORKTRLook);
+    report.AddObject(new VORKTRProse(std::filesystem::path(iTable).filename().string() + ": " +
+                                     std::to_string(columns.front().fields.size()) + " rows of " +
+                                     std::to_string(columns.size()) + " columns."));
     report.AddObject(new VORKTRHeading("Summary", 1));
     const auto& extremes = AddTable(report, "Extremes of the columns of numbers", summary);
     report.AddObject(new VORKTRHeading("All results", 1));
