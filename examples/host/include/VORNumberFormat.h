@@ -8,6 +8,7 @@ constexpr const char* VORDefaultIntFormat = "%d";
 constexpr const char* VORDefaultFloatFormat = "%g";
 
 int VORFormatInt(int iValue, const char* iFormat, char* oText, std::size_t iSize);
+int VORFormatInt(long long iValue, const char* iFormat, char* oText, std::size_t iSize);
 int VORFormatFloat(double iValue, const char* iFormat, char* oText, std::size_t iSize);
 
 /// A format, read anew for each number.
@@ -16,7 +17,8 @@ class VORIntFormat
 public:
     explicit VORIntFormat(const char* iFormat) : _Text(iFormat ? iFormat : VORDefaultIntFormat) {}
     bool IsMadeOf(const char* iFormat) const { return _Text == iFormat; }
-    int Write(int iValue, char* oText, std::size_t iSize) const
+    template <typename Integer> // int, for the kit long long too
+    int Write(Integer iValue, char* oText, std::size_t iSize) const
     {
         return VORFormatInt(iValue, _Text.c_str(), oText, iSize);
     }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 using VORUnicodeChar = char32_t;
 
@@ -15,6 +16,8 @@ class VORUnicodeString
 public:
     VORUnicodeString() = default;
     VORUnicodeString(const char* iText) : _Bytes(iText ? iText : "") {}
+    VORUnicodeString(std::string iText) : _Bytes(std::move(iText)) {}
+    explicit VORUnicodeString(std::string_view iText) : _Bytes(iText) {}
     VORUnicodeString(VORUnicodeChar iChar, int iCount);
 
     VORUnicodeString& Append(const VORUnicodeString& iText);
@@ -28,6 +31,8 @@ public:
     int GetLengthInChar() const;
     int GetLengthInByte() const { return static_cast<int>(_Bytes.size()); }
     const char* ConvertToChar() const { return _Bytes.c_str(); }
+    std::string_view GetView() const { return _Bytes; }
+    std::string ToString() const { return _Bytes; }
 
     void BuildFromNum(int iValue, const char* iFormat);
     void ReplaceSubString(int iPosition, int iLength, const VORUnicodeString& iBy);

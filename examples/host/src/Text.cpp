@@ -119,8 +119,13 @@ bool Parse(const char* iFormat, const char* iConversions, Format& oFormat)
 }
 
 template <typename Number>
-std::string Print(Number iValue, const std::string& iConversion)
+std::string Print(Number iValue, std::string iConversion)
 {
+    if constexpr (std::is_same_v<Number, long long>) {
+        if (iConversion.back() == 'c')
+            return Print(static_cast<int>(iValue), iConversion);
+        iConversion.insert(iConversion.size() - 1, "ll");
+    }
     std::string text(
         static_cast<std::size_t>(std::snprintf(nullptr, 0, iConversion.c_str(), iValue)) + 1, '\0');
     std::snprintf(text.data(), text.size(), iConversion.c_str(), iValue);
@@ -150,6 +155,11 @@ int FormatNumber(Number iValue, const char* iFormat, const char* iConversions, c
 } // namespace
 
 int VORFormatInt(int iValue, const char* iFormat, char* oText, std::size_t iSize)
+{
+    return FormatNumber(iValue, iFormat, "diuoxXc", VORDefaultIntFormat, oText, iSize);
+}
+
+int VORFormatInt(long long iValue, const char* iFormat, char* oText, std::size_t iSize)
 {
     return FormatNumber(iValue, iFormat, "diuoxXc", VORDefaultIntFormat, oText, iSize);
 }
