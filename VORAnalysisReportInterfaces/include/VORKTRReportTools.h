@@ -19,10 +19,10 @@ public:
     static int GetFigureNumber();
 
     /// Shows a page in a browser: runs "RunNs.sh", found along the environment variable
-    /// "VORCommandPath", with the page as argument, and returns what system() returned. -1 when
-    /// there is no launcher; 0, and nothing is run, when "KTR_ODT" is set. The launcher's
-    /// path and the page go to the command interpreter unquoted: never pass text that you do not
-    /// control. The last argument is reserved.
+    /// "VORCommandPath", with the page as argument, and returns what system() returned when it has
+    /// ended. -1 when there is no launcher; 0, and nothing is run, when "KTR_ODT" is set. The
+    /// launcher's path and the page go to the command interpreter unquoted: never pass text that
+    /// you do not control. The last argument is reserved.
     static int StartBrowser(const VORUnicodeString& page, unsigned char);
 
     /// Appends iText to ioHtml as a paragraph writes it: '&', '<' and '>' escaped, a line feed as a

@@ -24,7 +24,7 @@ public:
     void SetBufferData(const VORUnicodeString* iPath) override;
 
     /// Appends an item and takes ownership of it; null is ignored. A child added after the report
-    /// was written learns the report directory at the next MakeReport.
+    /// was written learns the directory at the next MakeReport or SetBufferData of the bag.
     void AddObject(VORKTRReportingObj* iObject);
 
     /// Number of headings of level iOrder among the children themselves.

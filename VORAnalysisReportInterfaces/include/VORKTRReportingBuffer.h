@@ -29,12 +29,14 @@ public:
     /// Fails on null.
     int AddObject(VORKTRReportingObj* iObject);
 
-    /// Inserts an item before position iIndex, from 0, and takes ownership of it. Fails on null and
-    /// on a position that holds no entry yet (the end is refused); the item stays the caller's.
+    /// Inserts an item before position iIndex, from 0, which moves up with all behind it, empty
+    /// ones too, and takes ownership of it. Fails on null and on a position beyond the last (the
+    /// end is AddObject's); the item stays the caller's.
     int InsertObjectAtIndex(VORKTRReportingObj* iObject, int iIndex);
 
     /// Destroys the item at a position, which stays as an empty one: other positions do not move.
-    /// Returns what the item's RemoveFromReport returned; fails when there is no item.
+    /// Returns what the item's RemoveFromReport returned, and the item is gone whatever that was;
+    /// fails when there is no item.
     int RemoveObject(int iIndex);
     /// As above for a given item; fails when the report does not hold it.
     int RemoveObject(VORKTRReportingObj* iObject);
@@ -68,23 +70,26 @@ public:
     /// it is the first negative one.
     void NoteWriteStatus(int iStatus);
 
-    /// Writes the report as a web site into iDirectory (UTF-8), which is created when absent, but
-    /// not its parents, and never emptied: files of the same names are overwritten. iTitle heads
-    /// the site; it is HTML, not escaped. A report is written once; Update rewrites it. Fails when
-    /// the directory cannot be created or written or a stylesheet or the first page cannot be
-    /// opened. A later page that cannot be opened is left out; TakeWriteStatus tells.
+    /// Writes the report as a web site into iDirectory (UTF-8; a relative one is resolved by each
+    /// run), which is created when absent, but not its parents, and never emptied: files of the
+    /// same names are overwritten. iTitle heads the site; it is HTML, not escaped. A report is
+    /// written once; Update rewrites it. Fails when the directory cannot be created or written or a
+    /// stylesheet or the first page cannot be opened. A later page that cannot be opened is left
+    /// out; TakeWriteStatus tells.
     int MakeReport(const VORUnicodeString& iDirectory, const VORUnicodeString& iTitle);
 
-    /// Rewrites the site after items were added or removed. Page numbers start at 1 again; pages
-    /// beyond those of the new site stay on disk, but for those named by a character whose code is
-    /// at most the old number of pages: "page0.html" (48) to "page9.html", "pageA.html" (65) and so
-    /// on. Anchors of the first page, file and figure
-    /// numbers go on. Fails before the first MakeReport.
+    /// Rewrites the site after items were added, removed or changed; none is told the directory
+    /// again. Page numbers start at 1 again; anchors of the first page, file and figure numbers go
+    /// on. The old navigation goes, and pages named by a character whose code is at most the old
+    /// number of pages: "page0.html" (48) to "page9.html", "pageA.html" (65) and so on; others
+    /// beyond those of the new site stay. Fails before the first MakeReport, and as that does; a
+    /// directory that is gone is not made again.
     int Update();
 
     /// @{ The steps of a run, in order. BeginReport writes the stylesheets, copies the background
     /// image and opens the first page; Flush writes the items; FinishReport closes the pages and
-    /// deletes "reload.html". All fail before the first MakeReport, Flush without an open page too.
+    /// deletes "reload.html". Page numbers go on, unlike in Update. All fail before the first
+    /// MakeReport, Flush without an open page too.
     int BeginReport();
     int Flush();
     int FinishReport();

@@ -36,7 +36,7 @@ public:
 
     /// Moves the file into the report directory. Only the first directory counts, null does not;
     /// after a failure (no report, an unreadable source) the item keeps its path and the next call
-    /// tries again. When it throws, the file was not moved.
+    /// tries again (MakeReport makes one, Update does not). When it throws, the file was not moved.
     void SetBufferData(const VORUnicodeString* directory) override;
 
     /// Moves the file into a directory under a generated name and returns that name, which the

@@ -12,6 +12,7 @@
 
 /// Lines of label, separator, value and unit, in aligned columns. When a value is a float, values
 /// align on their decimal point in HTML. Labels and units are HTML, not escaped; a text value is.
+/// All are of one line.
 class VORKTR_EXPORT VORKTRReportingList : public VORKTRReportingObj
 {
 public:
@@ -20,8 +21,9 @@ public:
     ~VORKTRReportingList() override;
 
     /// @{ Adds a line whose value is a text, or a number in the printf format (see
-    /// VORKTRReportingFloat and VORKTRReportingInt); a double is converted to float. A unit may be
-    /// empty. Returns 0; without memory for its value, a line has none.
+    /// VORKTRReportingFloat and VORKTRReportingInt); a double is converted to float, other kinds of
+    /// numbers need a cast. A unit may be empty. Returns 0; without memory for its value, a line
+    /// has none.
     int addLine(const VORUnicodeString& label, const VORUnicodeString& value,
                 const VORUnicodeString& unit);
     int addLine(const VORUnicodeString& label, float value, const VORUnicodeString& unit,

@@ -31,8 +31,9 @@ public:
     /// RemoveFromReport may insert items into the report or remove the item itself.
     virtual ~VORKTRReportingObj();
 
-    /// Called just before a report removes and destroys the item, which then deletes what it has on
-    /// disk. The result becomes that of the removal: 0, or a negative status. The base returns 0.
+    /// Called just before a report, or a bag that is removed, destroys the item, which then deletes
+    /// what it has on disk; not for an item of a list or table. The result becomes that of the
+    /// removal: 0, or a negative status. The base returns 0.
     virtual int RemoveFromReport();
 
     /// Kind of the item, a VORKTRReportingObjType. An application's own item keeps this one or
@@ -66,12 +67,14 @@ public:
     /// Tells the item its report, null for none; a report or bag calls it when it takes the item.
     virtual void SetBuffer(VORKTRReportingBuffer* iBuffer);
 
-    /// Tells the item the report directory. iPath belongs to the report and lives as long as it;
-    /// items ignore null. The base ignores every directory.
+    /// Tells the item the report directory: MakeReport does, and AddObject and InsertObjectAtIndex
+    /// of a report written before. iPath belongs to the report and lives as long as it; items
+    /// ignore null. The base ignores every directory.
     virtual void SetBufferData(const VORUnicodeString* iPath);
 
 protected:
-    /// The item's report, not owned; null before one takes it.
+    /// The item's report, not owned; null before one takes it, and in a list or table unless the
+    /// program calls SetBuffer.
     VORKTRReportingBuffer* _Buffer = nullptr;
 };
 
