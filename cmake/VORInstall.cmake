@@ -80,6 +80,10 @@ install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT Docum
 
 install(FILES ${VOR_COMPILER_RUNTIME} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime)
 
+if(NOT VOR_IS_TOP_PROJECT)
+    return() # packages are the project's around
+endif()
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME voranalysisreportinterfaces)
 set(CPACK_PACKAGE_CONTACT "The VORAnalysisReportInterfaces team <team@voranalysisreport.invalid>")

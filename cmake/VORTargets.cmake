@@ -3,7 +3,7 @@
 # Language level, warnings and sanitizers.
 function(vor_configure_target target)
     target_compile_features(${target} PUBLIC cxx_std_17)
-    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF UNITY_BUILD OFF)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                            -Wnon-virtual-dtor -Wold-style-cast
                            $<$<BOOL:${VOR_WERROR}>:-Werror>)
