@@ -20,7 +20,8 @@ VORSYSTEM_EXPORT std::size_t VORCountChars(const char* iText, std::size_t iLengt
 
 /// Unicode text, held as UTF-8. Positions and lengths are in characters (code points) unless an
 /// operation says bytes. Bytes that are not valid UTF-8 are kept as they are, one character each,
-/// so that narrow text survives the way in and out. A text holds less than 2 GiB.
+/// so that narrow text survives the way in and out. A text holds less than 2 GiB: what would make
+/// it longer throws std::length_error and changes nothing.
 class VORSYSTEM_EXPORT VORUnicodeString
 {
 public:
@@ -32,7 +33,7 @@ public:
     VORUnicodeString(const char* iText, int iLength);
     /// @{ From UTF-8 that may hold NULs.
     VORUnicodeString(std::string iText)
-        : _Bytes(std::move(iText)), _Length(VORCountChars(_Bytes.data(), _Bytes.size()))
+        : _Bytes(std::move(iText)), _Length(LengthOf(_Bytes.data(), _Bytes.size()))
     {
     }
     explicit VORUnicodeString(std::string_view iText) : VORUnicodeString(std::string(iText)) {}
@@ -99,6 +100,7 @@ public:
     /// @}
 
 private:
+    static std::size_t LengthOf(const char* iText, std::size_t iBytes);
     VORUnicodeString& Append(const char* iText, std::size_t iBytes, std::size_t iLength);
     void ReserveMore(std::size_t iBytes);
     std::size_t ByteOffset(int iPosition) const;

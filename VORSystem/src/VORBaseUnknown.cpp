@@ -1,5 +1,7 @@
 #include "VORBaseUnknown.h"
 
+#include <utility>
+
 // The value that it has wherever there is such a root: a library that has the name as well may come
 // first where a program is linked.
 const GUID IID_IUnknown = {0, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
@@ -38,8 +40,10 @@ VORStatus VORBaseUnknown::QueryInterface(const GUID& iId, void** oInterface)
 unsigned int VORBaseUnknown::Release()
 {
     const unsigned int left = --_References;
-    if (left == 0)
+    if (left == 0) {
+        _References = 1u << 31; // it may be counted on its way out, and must not end twice
         delete this;
+    }
     return left;
 }
 
@@ -54,8 +58,8 @@ VORBaseUnknown* VORBaseUnknown_var::CastTo(IUnknown* iObject, const GUID& iId)
     void* found = nullptr;
     if (iObject)
         iObject->QueryInterface(iId, &found);
-    if (_Object)
-        _Object->Release();
-    _Object = static_cast<VORBaseUnknown*>(found);
+    VORBaseUnknown* const last = std::exchange(_Object, static_cast<VORBaseUnknown*>(found));
+    if (last)
+        last->Release();
     return _Object;
 }

@@ -76,8 +76,7 @@ namespace
 {
 
 constexpr unsigned int ChunkSize = 64;
-constexpr unsigned int ChunkCount =
-    1024; // 65,536 open files, as many as systems let a process have
+constexpr unsigned int ChunkCount = 1024; // 65,536 open files
 using Chunk = std::array<VOROutputFile, ChunkSize>;
 
 // Places never move, so that one thread finds its file while another adds places. They are there

@@ -1,9 +1,11 @@
 #include "VORUnicodeString.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdint>
 #include <cstring>
 #include <functional>
+#include <stdexcept>
 #include <utility>
 
 #include "VORNumberFormat.h"
@@ -143,6 +145,20 @@ std::size_t OpenSequence(const std::string& iBytes)
     return size;
 }
 
+// Lengths are ints.
+std::size_t RequireLength(std::uint64_t iBytes)
+{
+    if (iBytes > INT_MAX)
+        throw std::length_error("a text of 2 GiB or more");
+    return static_cast<std::size_t>(iBytes);
+}
+
+std::size_t LengthUpTo(const char* iText, std::size_t iMost)
+{
+    const void* const end = std::memchr(iText, '\0', iMost);
+    return end ? static_cast<std::size_t>(static_cast<const char*>(end) - iText) : iMost;
+}
+
 } // namespace
 
 std::size_t VORCountChars(const char* iText, std::size_t iLength)
@@ -169,9 +185,10 @@ VORUnicodeString::VORUnicodeString(const char* iText)
 }
 
 VORUnicodeString::VORUnicodeString(const char* iText, int iLength)
-    : VORUnicodeString(iText && iLength > 0
-                           ? std::string(iText, std::find(iText, iText + iLength, '\0'))
-                           : std::string())
+    : VORUnicodeString(
+          iText && iLength > 0
+              ? std::string(iText, LengthUpTo(iText, static_cast<std::size_t>(iLength)))
+              : std::string())
 {
 }
 
@@ -179,6 +196,7 @@ VORUnicodeString::VORUnicodeString(VORUnicodeChar iChar, int iCount)
 {
     const std::string one = Encode(iChar);
     const std::size_t count = iCount > 0 ? static_cast<std::size_t>(iCount) : 0;
+    RequireLength(std::uint64_t{count} * one.size());
     if (one.size() == 1) {
         _Bytes.assign(count, one[0]);
     } else {
@@ -202,6 +220,12 @@ VORUnicodeString& VORUnicodeString::operator=(VORUnicodeString&& ioOther) noexce
     return *this;
 }
 
+// Not of a string, whose name differs between standard libraries.
+std::size_t VORUnicodeString::LengthOf(const char* iText, std::size_t iBytes)
+{
+    return VORCountChars(iText, RequireLength(iBytes));
+}
+
 VORUnicodeString& VORUnicodeString::Append(const VORUnicodeString& iText)
 {
     return Append(iText._Bytes.data(), iText._Bytes.size(), iText._Length);
@@ -211,6 +235,7 @@ VORUnicodeString& VORUnicodeString::Append(const VORUnicodeString& iText)
 VORUnicodeString& VORUnicodeString::Append(const char* iText, std::size_t iBytes,
                                            std::size_t iLength)
 {
+    RequireLength(std::uint64_t{_Bytes.size()} + iBytes);
     const std::size_t open = OpenSequence(_Bytes);
     const std::size_t openBytes = _Bytes.size() - open;
     const bool isOwn =

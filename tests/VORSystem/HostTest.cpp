@@ -82,7 +82,12 @@ const VORFillDictionary Fill(InterfaceId, CLSID_VORMetaClass, &InterfaceMeta, nu
 
 struct Component : VORBaseUnknown {
     Component() { ++Living; }
-    ~Component() override { --Living; }
+    ~Component() override
+    {
+        --Living;
+        VORBaseUnknown_var itself; // ends it no second time
+        EXPECT_EQ(itself.CastTo(this, IID_VORBaseUnknown), this);
+    }
     VORMetaClass* GetMetaObject() const override { return &InterfaceMeta; }
 
     static inline int Living = 0;

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <random>
 #include <set>
+#include <stdexcept>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -136,6 +137,7 @@ TEST(UnicodeString, KeepsItsLimits)
     EXPECT_EQ(VORUnicodeString("\U0010FFFF").GetLengthInChar(), 1);
     EXPECT_TRUE(VORUnicodeString(U'x', -1) == nullptr);
     EXPECT_TRUE(VORUnicodeString("ab", 5) == "ab");
+    EXPECT_THROW(VORUnicodeString(U'\u20AC', 715827883), std::length_error); // of 3 bytes
     std::set<const char*> places; // few when an append rarely moves the text
     for (int i = 0; i < 100000; ++i)
         places.insert(text.Append("\u00E9").ConvertToChar());
