@@ -14,8 +14,9 @@
 ///
 /// Operations return 0 or a negative status, VOR_E_FAIL (0x80004005) for a failure without a status
 /// of its own. What they return does not say that all files arrived whole: TakeWriteStatus does.
-/// They throw std::bad_alloc when memory runs out, and what items of the application or a
-/// fatal-error handler throw; the report can then be used again and destroyed.
+/// They throw std::bad_alloc when memory runs out, std::length_error for a text of 2 GiB, and what
+/// items of the application or a fatal-error handler throw; the report can then be used again and
+/// destroyed.
 class VORKTR_EXPORT VORKTRReportingBuffer
 {
 public:
@@ -156,7 +157,9 @@ private:
     unsigned int _NavigationFile = 0;
     mutable int _WriteStatus = 0;
 
-    static VORUnicodeString _BackgroundCode;
+    // Of the latest run with an image, null before it. Never destroyed: static reports may be
+    // written before main begins and as late as they end.
+    static VORUnicodeString* _BackgroundCode;
 };
 
 #endif

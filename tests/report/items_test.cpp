@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "ReportTest.h"
+#include "VORKTRReportTools.h"
 #include "VORKTRReportingFile.h"
 #include "VORKTRReportingFloat.h"
 #include "VORKTRReportingInt.h"
@@ -163,6 +164,9 @@ TEST_F(ItemsTest, HaveANumberForEachKindAndTextInPieces)
     VORUnicodeString replaced("a€b€"); // what is put in is not searched again
     VORKTRReportingText::ReplaceAllOccurrences(replaced, "€", "€a");
     EXPECT_STREQ(replaced.ConvertToChar(), "a€ab€a");
+    VORUnicodeString html("a<\n");
+    VORKTRReportTools::AppendEscaped(html, html);
+    EXPECT_STREQ(html.ConvertToChar(), "a<\na&lt;<BR>\n");
 }
 
 TEST_F(ItemsTest, NumbersLookTheSameByThemselvesAndInTables)

@@ -72,6 +72,10 @@ TEST(Table, AnItemMayGrowItOrItsListAsItEnds)
         }
         Table& table;
     };
+    struct Replaced : Growing {
+        using Growing::Growing;
+        ~Replaced() override { table.SetObj(0, 0, new Growing(table)); }
+    };
     struct Adding : Probe {
         explicit Adding(VORKTRReportingList& ioList) : list(ioList) {}
         ~Adding() override
@@ -91,6 +95,10 @@ TEST(Table, AnItemMayGrowItOrItsListAsItEnds)
     EXPECT_EQ(table.SetText(0, 0, "first"), 0);
     EXPECT_EQ(table.GetColumnNumber(), 7);
     EXPECT_EQ(TextOf(table).substr(0, 9), "    first");
+    EXPECT_EQ(table.SetObj(0, 0, new Replaced(table)), 0);
+    EXPECT_EQ(table.SetText(0, 0, "second"), 0);
+    EXPECT_TRUE(Holds(TextOf(table), " second "));
+    EXPECT_EQ(table.SetObj(0, 0, new Replaced(table)), 0);
     EXPECT_EQ(table.SetObj(1, 0, new Growing(table)), 0);
 }
 

@@ -46,33 +46,6 @@ TEST_F(SiteTest, FailuresOfPagesCostOnlyTheirItems)
     EXPECT_EQ(report.TakeWriteStatus(), VOR_E_DISK_FULL);
 }
 
-/// Files of this process end there, as on a full disk.
-void LimitFileSize(rlim_t iSize)
-{
-    std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit limit;
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-    limit.rlim_cur = std::min(iSize, limit.rlim_max);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-}
-
-TEST_F(SiteTest, AFullDiskIsToldAndMendedByTheNextRun)
-{
-    Add({Title("A", 1), Text("a"), Title("B", 1), Text(Repeat(70000, "b").c_str())});
-    ASSERT_EQ(Make(), 0);
-    EXPECT_EQ(report.Update(), 0);
-    const auto whole = ReadTree(site);
-    for (const rlim_t size : {rlim_t{100}, rlim_t{66000}, rlim_t{RLIM_INFINITY}}) {
-        const bool isFull = size != RLIM_INFINITY;
-        LimitFileSize(size);
-        EXPECT_EQ(report.TakeWriteStatus(), 0);
-        report.GetIndex() = 1;
-        EXPECT_EQ(report.Update(), 0);
-        EXPECT_EQ(report.TakeWriteStatus(), isFull ? VOR_E_DISK_FULL : 0);
-        EXPECT_EQ(ReadTree(site) == whole, !isFull);
-    }
-}
-
 TEST_F(SiteTest, ADirectoryThatMayNotBeWrittenEndsTheRun)
 {
     fs::create_directory(site);
@@ -148,6 +121,16 @@ TEST_F(IncludedFile, IsARegularFileOfTheSitesOwn)
     EXPECT_EQ(ReadFile(kept), "what links lead to");
     EXPECT_EQ(HtmlOf(*Send(AddFile("/proc/self/mem"))), Embedded("file8")); // opens, is not read
     EXPECT_EQ(report.TakeWriteStatus(), VOR_E_FAIL);
+}
+
+/// Files of this process end there, as on a full disk.
+void LimitFileSize(rlim_t iSize)
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit limit;
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    limit.rlim_cur = std::min(iSize, limit.rlim_max);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
 }
 
 TEST_F(IncludedFile, IsCopiedFromAnotherFileSystemAndDeletedWhenItArrivedWhole)

@@ -1,10 +1,16 @@
 #include <cstdlib>
+#include <memory>
+#include <new>
+#include <string>
 
 #include <gtest/gtest.h>
 
 #include "Program.h"
+#include "VORFile.h"
 #include "VORHostDisk.h"
+#include "VORKTRReportingTitle.h"
 #include "support/ExpectedSite.h"
+#include "support/FailingMemory.h"
 
 namespace
 {
@@ -54,6 +60,65 @@ TEST(Host, NoFailureIsSilentOrHarmful)
     for (const bool isForGood : {false, true})
         Sweep(right, [&](int iOperation) { return RunProgram(iOperation, isForGood); });
     EXPECT_EQ(RunProgram(1, true).files.size(), Sources.size() + 1) << "nothing is written";
+}
+
+// Fails an operation of the disk, 0 for none, and an allocation; returns whether that was reached.
+bool RunWithout(int iAllocation, int iOperation)
+{
+    VORHostDisk::Clear();
+    auto failing = std::make_unique<VORKTRReportingBuffer>();
+    for (const char* const heading : {"One", "Two"})
+        failing->AddObject(new VORKTRReportingTitle(heading, 1));
+    VORHostDisk::FailAt(iOperation, false);
+    FailingMemory::FailAt(iAllocation);
+    try {
+        failing->MakeReport("failing", "");
+    } catch (const std::bad_alloc&) {
+    }
+    const bool isReached = FailingMemory::Count >= iAllocation;
+    FailingMemory::FailAt(0);
+    const bool hasFailed = iOperation > 0 && VORHostDisk::GetOperationCount() >= iOperation;
+    VORHostDisk::FailAt(0, false);
+    if (hasFailed) { // a page that is still open tells with the next run, which closes it
+        failing->MakeReport("failing", "");
+        EXPECT_LT(failing->TakeWriteStatus(), 0) << iAllocation << " " << iOperation;
+    }
+    unsigned int other = 0; // which the report must not close
+    EXPECT_EQ(VORFOpen("other", "w", other), 0);
+    failing.reset();
+    EXPECT_EQ(VORFClose(other) + VORHostDisk::GetOpenFileCount(), 0) << iAllocation;
+    return isReached;
+}
+
+TEST(Host, WithoutMemoryAPageKeepsItsNumberAndAReportItsStatus)
+{
+    for (int operation = 0; operation < 60; ++operation) {
+        if (operation == 1)
+            continue; // the look for the directory, which is then made
+        for (int allocation = 1; RunWithout(allocation, operation);)
+            ++allocation;
+    }
+}
+
+/// Before main begins, and when all but static objects has ended.
+struct StaticReport {
+    ~StaticReport()
+    {
+        if (Write().find("<BODY B") == std::string::npos)
+            std::abort();
+    }
+    std::string Write()
+    {
+        report.MakeReport("static", "");
+        return VORHostDisk::ReadAll()["static/index.html"];
+    }
+    VORKTRReportingBuffer report;
+    std::string early = Write();
+} Static;
+
+TEST(Host, AStaticReportIsWrittenBeforeMainAndAfterIt)
+{
+    EXPECT_NE(Static.early.find("<BODY BGCOLOR=\"#EEF3FF\">"), std::string::npos);
 }
 
 TEST(Host, PagesAreDeletedOnlyWhenTheStylesheetHasAPath)

@@ -1,5 +1,7 @@
 #include "VORKTRReportTools.h"
 
+#include <string>
+
 #include "VOREnvironment.h"
 #include "VORKTRBytes.h"
 #include "VORKTREscape.h"
@@ -34,5 +36,7 @@ int VORKTRReportTools::StartBrowser(const VORUnicodeString& page, unsigned char)
 
 void VORKTRReportTools::AppendEscaped(VORUnicodeString& ioHtml, const VORUnicodeString& iText)
 {
-    EscapeHtml(BytesOf(iText), [&ioHtml](std::string_view piece) { ioHtml.AppendBytes(piece); });
+    std::string html; // both texts may be one
+    EscapeHtml(BytesOf(iText), [&html](std::string_view piece) { html += piece; });
+    ioHtml.AppendBytes(html);
 }

@@ -41,7 +41,7 @@ int CountTitles(VORKTRReportingObj& iItem, int iOrder)
 
 } // namespace
 
-VORUnicodeString VORKTRReportingBuffer::_BackgroundCode = PlainBackground;
+VORUnicodeString* VORKTRReportingBuffer::_BackgroundCode = nullptr;
 
 VORKTRReportingBuffer::VORKTRReportingBuffer() = default;
 
@@ -251,14 +251,16 @@ bool VORKTRReportingBuffer::CopyBackground(VORUnicodeString& iName, VORUnicodeSt
     if (iDirectory == "" || CopyIcon(iName, iDirectory) < 0)
         return false;
     const std::lock_guard<std::mutex> lock(BackgroundMutex);
-    _BackgroundCode = ImageBackground(iName);
+    if (!_BackgroundCode)
+        _BackgroundCode = new VORUnicodeString;
+    *_BackgroundCode = ImageBackground(iName);
     return true;
 }
 
 VORUnicodeString VORKTRReportingBuffer::LatestBackground()
 {
     const std::lock_guard<std::mutex> lock(BackgroundMutex);
-    return _BackgroundCode;
+    return _BackgroundCode ? *_BackgroundCode : PlainBackground;
 }
 
 int VORKTRReportingBuffer::CopyIcon(VORUnicodeString& iFileName,

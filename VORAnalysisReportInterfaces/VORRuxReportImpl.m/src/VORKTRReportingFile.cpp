@@ -124,13 +124,10 @@ VORString VORKTRReportingFile::NextName() const
 
 int VORKTRReportingFile::MoveAs(const VORString& iName, const VORUnicodeString& iDirectory) const
 {
-    int failure = VOR_S_OK;
+    ItemFailure failure(*_Buffer);
     VORUnicodeString target;
-    int status = Noted(failure, VORMakePath(iDirectory, iName.c_str(), target));
-    if (status >= 0)
-        status = Move(_FilePath.c_str(), target, failure);
-    _Buffer->NoteWriteStatus(failure);
-    return status;
+    const int status = Noted(failure.status, VORMakePath(iDirectory, iName.c_str(), target));
+    return status < 0 ? status : Move(_FilePath.c_str(), target, failure.status);
 }
 
 int VORKTRReportingFile::RemoveFromReport()

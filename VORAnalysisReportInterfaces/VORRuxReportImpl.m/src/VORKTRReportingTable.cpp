@@ -159,10 +159,8 @@ public:
         const std::string_view texts = _Texts.Get();
         _IsAscii = CountChars(texts) == static_cast<int>(texts.size());
         _Lines.Clear();
-        char* end = _Lines.MakeRoom(static_cast<std::size_t>(height) * _LongestLine + texts.size());
         for (int line = 0; line < height; ++line)
-            end = PutLine(end, texts);
-        _Lines.EndAt(end);
+            _Lines.EndAt(PutLine(_Lines.MakeRoom(_LongestLine + texts.size()), texts));
         oText.AppendBytes(_Lines.Get());
     }
 
@@ -238,15 +236,16 @@ VORKTRReportingTable::~VORKTRReportingTable()
         return;
     // In their order, which not every vector keeps at its end; an item may make the table grow.
     for (std::size_t i = 0; i < _Cells.GetSize(); ++i) {
-        if (_Cells[i].IsItem())
+        while (_Cells[i].IsItem())
             const VORKTRValue ended = std::move(_Cells[i]);
     }
 }
 
-// Empties a cell. An item may change its table as it ends, so that it is no longer in it by then.
+// Empties a cell. An item may change its table as it ends, even this cell, so that it is no longer
+// in it by then.
 void VORKTRReportingTable::EndItem(int iRow, int iColumn)
 {
-    if (_HoldsItems && CellAt(iRow, iColumn).IsItem())
+    while (_HoldsItems && CellAt(iRow, iColumn).IsItem())
         const VORKTRValue ended = std::move(CellAt(iRow, iColumn));
 }
 

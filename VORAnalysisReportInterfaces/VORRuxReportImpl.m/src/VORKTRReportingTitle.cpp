@@ -73,6 +73,15 @@ void AppendDrawn(VORKTRByteBuffer& ioText, const VORUnicodeString& iTitle, int i
     }
 }
 
+// Opens a file in the place of one just closed; without memory nobody else gets its number.
+int OpenPage(const VORUnicodeString& iPath, unsigned int& oFile)
+try {
+    return VORFOpen(iPath, "w", oFile);
+} catch (...) {
+    VORFReserve(oFile, VOR_E_FAIL);
+    throw;
+}
+
 } // namespace
 
 VORKTRReportingTitle::VORKTRReportingTitle(const VORUnicodeString& iTitle, int iOrder)
@@ -137,19 +146,18 @@ int VORKTRReportingTitle::NewPage(const VORUnicodeString* iTitle, unsigned int& 
 int VORKTRReportingTitle::OpenNextPage(const VORUnicodeString& iTitle, unsigned int& ioFile,
                                        const VORUnicodeString& iPath) const
 {
-    int failure = VOR_S_OK;
+    ItemFailure failure(*_Buffer);
     const VORUnicodeString level = ReadLevel();
     VORUnicodeString path; // made before the close: nothing may fail between it and the open
-    Noted(failure, VORMakePath(iPath, PageName(_Buffer->GetPagesNumber() + 1), path));
-    Noted(failure, ClosePage(ioFile));
+    Noted(failure.status, VORMakePath(iPath, PageName(_Buffer->GetPagesNumber() + 1), path));
+    Noted(failure.status, ClosePage(ioFile));
     ++_Buffer->GetPagesNumber();
-    const int status = Noted(failure, VORFOpen(path, "w", ioFile));
-    if (status >= 0) {
-        WritePageHead(ioFile, iTitle, ChoosePageBackground(iPath, failure), level);
-        _Buffer->GetIndex() = 0;
-    }
-    _Buffer->NoteWriteStatus(failure);
-    return status < 0 ? status : VOR_S_OK;
+    const int status = Noted(failure.status, OpenPage(path, ioFile));
+    if (status < 0)
+        return status;
+    WritePageHead(ioFile, iTitle, ChoosePageBackground(iPath, failure.status), level);
+    _Buffer->GetIndex() = 0;
+    return VOR_S_OK;
 }
 
 void VORKTRReportingTitle::ASCIIReport(VORUnicodeString& ioText) const

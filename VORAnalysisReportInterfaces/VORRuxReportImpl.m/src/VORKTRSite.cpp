@@ -1,7 +1,5 @@
 #include "VORKTRSite.h"
 
-#include <utility>
-
 #include "VOREnvironment.h"
 #include "VORFile.h"
 #include "VORKTRFragment.h"
@@ -60,13 +58,16 @@ VORUnicodeString TwoFrames(const VORUnicodeString& iTextSource)
 
 /// A file of the site, closed at the end whatever happens.
 struct SiteFile {
-    SiteFile() = default;
+    explicit SiteFile(int& ioFailure) : failure(ioFailure) {}
     SiteFile(const SiteFile&) = delete;
     SiteFile& operator=(const SiteFile&) = delete;
-    ~SiteFile() { Close(); }
+    ~SiteFile()
+    {
+        if (handle != 0)
+            Noted(failure, VORFClose(handle));
+    }
 
-    int Close() { return handle == 0 ? VOR_S_OK : VORFClose(std::exchange(handle, 0)); }
-
+    int& failure;
     unsigned int handle = 0;
 };
 
@@ -85,12 +86,11 @@ template <typename Write>
 int WriteSiteFile(const VORUnicodeString& iDirectory, const char* iName, int& ioFailure,
                   Write&& iWrite)
 {
-    SiteFile file;
+    SiteFile file(ioFailure);
     const int status = OpenSiteFile(iDirectory, iName, file.handle, ioFailure);
     if (status < 0)
         return status;
     iWrite(file.handle);
-    Noted(ioFailure, file.Close());
     return VOR_S_OK;
 }
 

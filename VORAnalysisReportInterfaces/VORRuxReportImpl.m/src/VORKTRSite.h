@@ -1,6 +1,7 @@
 #ifndef VORKTRSite_h
 #define VORKTRSite_h
 
+#include "VORKTRReportingBuffer.h"
 #include "VORUnicodeString.h"
 
 namespace VORReport
@@ -25,6 +26,18 @@ VORUnicodeString PageName(const VORUnicodeString& iWords);
 int Noted(int& ioFailure, int iStatus);
 /// As above, but that there is no such file is not noted.
 int NotedUnlessMissing(int& ioFailure, int iStatus);
+
+/// The first failure of what an item does, which its report is told at the end, even when an
+/// exception is the end.
+struct ItemFailure {
+    explicit ItemFailure(VORKTRReportingBuffer& ioReport) : report(ioReport) {}
+    ItemFailure(const ItemFailure&) = delete;
+    ItemFailure& operator=(const ItemFailure&) = delete;
+    ~ItemFailure() { report.NoteWriteStatus(status); }
+
+    VORKTRReportingBuffer& report;
+    int status = 0;
+};
 
 /// What follows the generator's name in a page's head, a blank and the level that the environment
 /// sets, or nothing. Of a page that stays open it is read before the page is opened.
