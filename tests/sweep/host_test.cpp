@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <new>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -46,12 +48,29 @@ Outcome RunProgram(int iOperation, bool iForGood)
     return outcome;
 }
 
+/// Written before main begins, and when all but static objects has ended.
+struct StaticReport {
+    ~StaticReport()
+    {
+        if (!IsWritten())
+            std::abort();
+    }
+    bool IsWritten()
+    {
+        report.MakeReport("static", "");
+        return VORHostDisk::ReadAll()["static/index.html"].find("<BODY B") != std::string::npos;
+    }
+    VORKTRReportingBuffer report;
+    bool isEarly = IsWritten();
+} Static;
+
 TEST(Host, GivesTheBytesOfTheSystemsOwnLayer)
 {
     const TemporaryDirectory directory;
     WriteSources(directory);
     ASSERT_EQ(std::system((WRITE_PROGRAM " " + directory.Path()).c_str()), 0);
     EXPECT_EQ(RunProgram(0, true).files, ReadTree(directory.Path()));
+    EXPECT_TRUE(Static.isEarly);
 }
 
 TEST(Host, NoFailureIsSilentOrHarmful)
@@ -62,10 +81,12 @@ TEST(Host, NoFailureIsSilentOrHarmful)
     EXPECT_EQ(RunProgram(1, true).files.size(), Sources.size() + 1) << "nothing is written";
 }
 
-// Fails an operation of the disk, 0 for none, and an allocation; returns whether that was reached.
-bool RunWithout(int iAllocation, int iOperation)
+// Fails an operation of the disk and an allocation, 0 for none. Returns how many there were of
+// each.
+std::pair<int, int> RunWithout(int iOperation, int iAllocation)
 {
-    VORHostDisk::Clear();
+    VORHostDisk::PutFile("images/Corp.gif", "the background");
+    VORHostDisk::PutFile("failing/main.css", "older");
     auto failing = std::make_unique<VORKTRReportingBuffer>();
     for (const char* const heading : {"One", "Two"})
         failing->AddObject(new VORKTRReportingTitle(heading, 1));
@@ -75,50 +96,31 @@ bool RunWithout(int iAllocation, int iOperation)
         failing->MakeReport("failing", "");
     } catch (const std::bad_alloc&) {
     }
-    const bool isReached = FailingMemory::Count >= iAllocation;
+    const std::pair points(VORHostDisk::GetOperationCount(), int{FailingMemory::Count});
     FailingMemory::FailAt(0);
-    const bool hasFailed = iOperation > 0 && VORHostDisk::GetOperationCount() >= iOperation;
     VORHostDisk::FailAt(0, false);
-    if (hasFailed) { // a page that is still open tells with the next run, which closes it
-        failing->MakeReport("failing", "");
+    if (0 < iOperation && iOperation <= points.first) {
+        failing->MakeReport("failing", ""); // a page that is still open tells as this closes it
         EXPECT_LT(failing->TakeWriteStatus(), 0) << iAllocation << " " << iOperation;
     }
     unsigned int other = 0; // which the report must not close
     EXPECT_EQ(VORFOpen("other", "w", other), 0);
     failing.reset();
     EXPECT_EQ(VORFClose(other) + VORHostDisk::GetOpenFileCount(), 0) << iAllocation;
-    return isReached;
+    VORHostDisk::Clear();
+    EXPECT_TRUE(Static.IsWritten()) << iAllocation;
+    return points;
 }
 
 TEST(Host, WithoutMemoryAPageKeepsItsNumberAndAReportItsStatus)
 {
-    for (int operation = 0; operation < 60; ++operation) {
-        if (operation == 1)
-            continue; // the look for the directory, which is then made
-        for (int allocation = 1; RunWithout(allocation, operation);)
-            ++allocation;
+    PrepareEnvironment("images");
+    for (int operation = 0, operations = 0; operation <= operations; ++operation) {
+        std::pair points(0, 0);
+        for (int allocation = 1; points.second >= allocation - 1; ++allocation)
+            points = RunWithout(operation, allocation);
+        operations = std::max(operations, points.first);
     }
-}
-
-/// Before main begins, and when all but static objects has ended.
-struct StaticReport {
-    ~StaticReport()
-    {
-        if (Write().find("<BODY B") == std::string::npos)
-            std::abort();
-    }
-    std::string Write()
-    {
-        report.MakeReport("static", "");
-        return VORHostDisk::ReadAll()["static/index.html"];
-    }
-    VORKTRReportingBuffer report;
-    std::string early = Write();
-} Static;
-
-TEST(Host, AStaticReportIsWrittenBeforeMainAndAfterIt)
-{
-    EXPECT_NE(Static.early.find("<BODY BGCOLOR=\"#EEF3FF\">"), std::string::npos);
 }
 
 TEST(Host, PagesAreDeletedOnlyWhenTheStylesheetHasAPath)

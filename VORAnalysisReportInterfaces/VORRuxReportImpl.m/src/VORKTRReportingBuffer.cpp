@@ -1,5 +1,6 @@
 #include "VORKTRReportingBuffer.h"
 
+#include <memory>
 #include <mutex>
 #include <utility>
 
@@ -250,10 +251,9 @@ bool VORKTRReportingBuffer::CopyBackground(VORUnicodeString& iName, VORUnicodeSt
 {
     if (iDirectory == "" || CopyIcon(iName, iDirectory) < 0)
         return false;
+    auto latest = std::make_unique<VORUnicodeString>(ImageBackground(iName));
     const std::lock_guard<std::mutex> lock(BackgroundMutex);
-    if (!_BackgroundCode)
-        _BackgroundCode = new VORUnicodeString;
-    *_BackgroundCode = ImageBackground(iName);
+    delete std::exchange(_BackgroundCode, latest.release());
     return true;
 }
 
