@@ -1,5 +1,7 @@
 #include "VORKTREscape.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 
 using namespace VORReport;
@@ -18,14 +20,14 @@ constexpr Escape Escapes[] = {{'&', "&amp;"},
                               {'\n', "<BR>\n"},
                               {'\t', "<TT>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;</TT>"}};
 
-// True for the characters of the table, and nothing else, without a branch.
-constexpr bool IsEscaped(char iCharacter)
-{
-    bool isEscaped = false;
+// By character, true for those of the table. Comparisons in their place are branches that a letter
+// and a blank take differently: with them W2 takes 1.5 times the time.
+constexpr auto IsEscaped = [] {
+    std::array<bool, 256> isEscaped{};
     for (const Escape& escape : Escapes)
-        isEscaped |= iCharacter == escape.character;
+        isEscaped[static_cast<unsigned char>(escape.character)] = true;
     return isEscaped;
-}
+}();
 
 } // namespace
 
@@ -40,8 +42,8 @@ std::string_view VORReport::EscapeOf(char iCharacter)
 
 std::size_t VORReport::CountUnescaped(std::string_view iText)
 {
-    std::size_t at = 0;
-    while (at < iText.size() && !IsEscaped(iText[at]))
-        ++at;
-    return at;
+    const auto found = std::find_if(iText.begin(), iText.end(), [](char character) {
+        return IsEscaped[static_cast<unsigned char>(character)];
+    });
+    return static_cast<std::size_t>(found - iText.begin());
 }
