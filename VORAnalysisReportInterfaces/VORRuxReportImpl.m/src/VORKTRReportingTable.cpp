@@ -303,8 +303,7 @@ void VORKTRReportingTable::Reallocate(int row, int col)
     const int columns = std::max(_ColumnNb, col + 1);
     if (rows > 1 && static_cast<std::size_t>(columns) > _Stride)
         Rearrange(rows, columns);
-    // In the first row no other has to move; with Rearrange W4 takes 1.05 times the
-    // time to fill.
+    // In the first row no other has to move; with Rearrange W4 takes 1.05 times the time to fill.
     const std::size_t stride = std::max(_Stride, static_cast<std::size_t>(columns));
     _Cells.Grow(CountCells(static_cast<std::size_t>(rows), stride));
     _Stride = stride; // only now that there is memory for them

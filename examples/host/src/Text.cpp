@@ -137,6 +137,8 @@ std::string Print(Number iValue, std::string iConversion)
     return at == std::string::npos ? text : text.replace(at, point.size(), ".");
 }
 
+constexpr const char* IntConversions = "diuoxXc";
+
 template <typename Number>
 int FormatNumber(Number iValue, const char* iFormat, const char* iConversions, const char* iDefault,
                  char* oText, std::size_t iSize)
@@ -156,12 +158,12 @@ int FormatNumber(Number iValue, const char* iFormat, const char* iConversions, c
 
 int VORFormatInt(int iValue, const char* iFormat, char* oText, std::size_t iSize)
 {
-    return FormatNumber(iValue, iFormat, "diuoxXc", VORDefaultIntFormat, oText, iSize);
+    return FormatNumber(iValue, iFormat, IntConversions, VORDefaultIntFormat, oText, iSize);
 }
 
 int VORFormatInt(long long iValue, const char* iFormat, char* oText, std::size_t iSize)
 {
-    return FormatNumber(iValue, iFormat, "diuoxXc", VORDefaultIntFormat, oText, iSize);
+    return FormatNumber(iValue, iFormat, IntConversions, VORDefaultIntFormat, oText, iSize);
 }
 
 int VORFormatFloat(double iValue, const char* iFormat, char* oText, std::size_t iSize)
